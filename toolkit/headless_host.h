@@ -1,0 +1,44 @@
+// The host without a screen: waits advance a virtual clock instead of
+// sleeping, message boxes are recorded and answered OK at once.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "toolkit/host.h"
+
+namespace vrask {
+
+class HeadlessHost : public Host {
+ public:
+  struct Message {
+    std::string text;
+    std::string title;
+  };
+
+  void msgbox(const std::string& text, const std::string& title) override;
+  void wait(double seconds, bool pump) override;
+  void refresh(Form&) override { ++refreshes_; }
+  bool openDocument(const std::string& path) override;
+  void programEnded() override { ended_ = true; }
+
+  // Called inside every wait that lets events through, before the clock moves.
+  void setPump(std::function<void()> pump) { pump_ = std::move(pump); }
+
+  double clock() const { return clock_; }
+  const std::vector<Message>& messages() const { return messages_; }
+  const std::vector<std::string>& documentsOpened() const { return documents_; }
+  bool ended() const { return ended_; }
+  long refreshes() const { return refreshes_; }
+
+ private:
+  double clock_ = 0;
+  long refreshes_ = 0;
+  bool ended_ = false;
+  std::vector<Message> messages_;
+  std::vector<std::string> documents_;
+  std::function<void()> pump_;
+};
+
+}  // namespace vrask
