@@ -6,16 +6,26 @@ namespace vrask {
 
 std::string_view kindName(Kind kind) {
   switch (kind) {
-    case Kind::Line: return "Line";
-    case Kind::Shape: return "Shape";
-    case Kind::Label: return "Label";
-    case Kind::MenuItem: return "Menu";
-    case Kind::ListBox: return "ListBox";
-    case Kind::TextBox: return "TextBox";
-    case Kind::Button: return "CommandButton";
-    case Kind::Picture: return "PictureBox";
-    case Kind::Timer: return "Timer";
-    case Kind::Image: return "Image";
+    case Kind::Line:
+      return "Line";
+    case Kind::Shape:
+      return "Shape";
+    case Kind::Label:
+      return "Label";
+    case Kind::MenuItem:
+      return "Menu";
+    case Kind::ListBox:
+      return "ListBox";
+    case Kind::TextBox:
+      return "TextBox";
+    case Kind::Button:
+      return "CommandButton";
+    case Kind::Picture:
+      return "PictureBox";
+    case Kind::Timer:
+      return "Timer";
+    case Kind::Image:
+      return "Image";
   }
   return "?";
 }
@@ -82,10 +92,10 @@ std::optional<Value> Element::get(std::string_view property, std::optional<int> 
 
 const std::vector<std::string_view>& Element::stateProperties(Kind kind) {
   static const std::vector<std::string_view> line{"BorderWidth", "BorderColor", "Visible"};
-  static const std::vector<std::string_view> shape{"FillColor", "FillStyle", "BorderColor",
-                                                   "BorderWidth", "Shape", "Visible"};
-  static const std::vector<std::string_view> label{"Caption", "ForeColor", "BackColor",
-                                                   "BackStyle", "Visible", "Enabled"};
+  static const std::vector<std::string_view> shape{"FillColor",   "FillStyle", "BorderColor",
+                                                   "BorderWidth", "Shape",     "Visible"};
+  static const std::vector<std::string_view> label{"Caption",   "ForeColor", "BackColor",
+                                                   "BackStyle", "Visible",   "Enabled"};
   static const std::vector<std::string_view> menu{"Caption", "Checked", "Enabled", "Visible"};
   static const std::vector<std::string_view> list{"ListCount", "List", "Visible"};
   static const std::vector<std::string_view> text{"Text", "Visible", "Enabled"};
@@ -94,16 +104,26 @@ const std::vector<std::string_view>& Element::stateProperties(Kind kind) {
   static const std::vector<std::string_view> timer{"Interval", "Enabled"};
   static const std::vector<std::string_view> image{"Visible"};
   switch (kind) {
-    case Kind::Line: return line;
-    case Kind::Shape: return shape;
-    case Kind::Label: return label;
-    case Kind::MenuItem: return menu;
-    case Kind::ListBox: return list;
-    case Kind::TextBox: return text;
-    case Kind::Button: return button;
-    case Kind::Picture: return picture;
-    case Kind::Timer: return timer;
-    case Kind::Image: return image;
+    case Kind::Line:
+      return line;
+    case Kind::Shape:
+      return shape;
+    case Kind::Label:
+      return label;
+    case Kind::MenuItem:
+      return menu;
+    case Kind::ListBox:
+      return list;
+    case Kind::TextBox:
+      return text;
+    case Kind::Button:
+      return button;
+    case Kind::Picture:
+      return picture;
+    case Kind::Timer:
+      return timer;
+    case Kind::Image:
+      return image;
   }
   return image;
 }

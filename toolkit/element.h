@@ -28,8 +28,8 @@ inline constexpr int Yellow = 65535;
 inline constexpr int Green = 65280;
 inline constexpr int White = 16777215;
 inline constexpr int Grey = 8421504;
-inline constexpr int ButtonFace = -2147483633;   // system colour 15
-inline constexpr int WindowText = -2147483640;   // system colour 8
+inline constexpr int ButtonFace = -2147483633;        // system colour 15
+inline constexpr int WindowText = -2147483640;        // system colour 8
 inline constexpr int WindowBackground = -2147483643;  // system colour 5
 }  // namespace color
 
@@ -76,7 +76,7 @@ struct Element {
   bool Default = false;
   int Interval = 0;
 
-  std::string parent;  // menu entries: the name of the menu they stand in
+  std::string parent;             // menu entries: the name of the menu they stand in
   std::vector<std::string> List;  // list boxes: the rows
   std::vector<Stroke> drawing;    // pictures: what the code drew into them
 

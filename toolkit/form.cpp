@@ -85,9 +85,8 @@ void Form::var(const std::string& name, std::string& v) {
 }
 
 void Form::varArray(const std::string& name, int lo, int hi, std::function<Value(int)> get) {
-  vars_[name] = Variable{{{lo, hi}}, [get = std::move(get)](const std::vector<int>& ix) {
-                           return get(ix[0]);
-                         }};
+  vars_[name] = Variable{{{lo, hi}},
+                         [get = std::move(get)](const std::vector<int>& ix) { return get(ix[0]); }};
 }
 
 void Form::varTable(const std::string& name, std::pair<int, int> rows, std::pair<int, int> cols,
@@ -111,8 +110,12 @@ std::optional<std::string> Form::whyUnreachable(const Element& e) const {
   return std::nullopt;
 }
 
-Host& Form::host() { return program_.host(); }
-SharedState& Form::shared() { return program_.shared(); }
+Host& Form::host() {
+  return program_.host();
+}
+SharedState& Form::shared() {
+  return program_.shared();
+}
 
 void Form::MsgBox(const std::string& text, const std::string& title) {
   if (!program_.ended()) host().msgbox(text, title);
@@ -133,14 +136,24 @@ void Form::Refresh() {
   if (!program_.ended()) host().refresh(*this);
 }
 
-double Form::Rnd() { return host().rnd(); }
+double Form::Rnd() {
+  return host().rnd();
+}
 
-int Form::pick(int n) { return static_cast<int>(n * Rnd() + 1); }
+int Form::pick(int n) {
+  return static_cast<int>(n * Rnd() + 1);
+}
 
-void Form::goTo(const std::string& target) { program_.navigate(target); }
+void Form::goTo(const std::string& target) {
+  program_.navigate(target);
+}
 
-void Form::Unload() { program_.unload(*this); }
+void Form::Unload() {
+  program_.unload(*this);
+}
 
-void Form::End() { program_.end(); }
+void Form::End() {
+  program_.end();
+}
 
 }  // namespace vrask

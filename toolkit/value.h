@@ -9,7 +9,9 @@ namespace vrask {
 
 using Value = std::variant<bool, double, std::string>;
 
-inline Value num(double v) { return Value{v}; }
+inline Value num(double v) {
+  return Value{v};
+}
 
 // Numbers print as integers when they are whole ("16711680", not "1.67e+07").
 std::string formatNumber(double v);

@@ -57,8 +57,10 @@ class TestForm : public Form {
 
 struct ProgramFixture : ::testing::Test {
   ProgramFixture() : program(host) {
-    program.registerForm("first", [](Program& p) { return std::make_unique<TestForm>(p, "first"); });
-    program.registerForm("other", [](Program& p) { return std::make_unique<TestForm>(p, "other"); });
+    program.registerForm("first",
+                         [](Program& p) { return std::make_unique<TestForm>(p, "first"); });
+    program.registerForm("other",
+                         [](Program& p) { return std::make_unique<TestForm>(p, "other"); });
     program.open("first");
   }
   TestForm& form() { return static_cast<TestForm&>(*program.current()); }
@@ -81,9 +83,7 @@ TEST_F(ProgramFixture, ControlArraysKeepTheirOwnIndexRange) {
 }
 
 TEST_F(ProgramFixture, ElementsOutOfReachAreNotClicked) {
-  auto click = [&](Element& e) {
-    return program.userEvent(form(), e, e.name + "_Click").outcome;
-  };
+  auto click = [&](Element& e) { return program.userEvent(form(), e, e.name + "_Click").outcome; };
   EXPECT_EQ(click(el("ln1", 1)), Program::Outcome::Done);
   el("ln1", 1).Visible = false;
   EXPECT_EQ(click(el("ln1", 1)), Program::Outcome::Ignored);
