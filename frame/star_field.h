@@ -23,7 +23,8 @@ class StarField {
 
   // One tick: each star moves a fortieth of its distance away from the
   // middle, a star out of the field is dealt anew (with the form's Rnd), and
-  // the picture's drawing is replaced by the stars where they now stand.
+  // the picture's drawing is replaced by the stars where they now stand,
+  // the field scaled to the picture's size.
   void tick(Form& form);
 
   struct Star {

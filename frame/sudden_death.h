@@ -11,6 +11,7 @@
 namespace vrask {
 
 struct Element;
+class ElementArray;
 class Form;
 
 struct SuddenDeathConfig {
@@ -59,9 +60,9 @@ class SuddenDeath {
 
  private:
   Form& form_;
-  int entries_;
   int timelimit_ = 100000;
   int timeleft_ = 100000;
+  ElementArray* items_;
   Element* timer_;
   Element* bar_;
   Element* slider_;

@@ -1,0 +1,50 @@
+#include "frame/about_box.h"
+
+#include "toolkit/program.h"
+
+namespace vrask {
+
+namespace {
+
+Element& placed(Element& e, double left, double top, double width, double height) {
+  e.Left = left;
+  e.Top = top;
+  e.Width = width;
+  e.Height = height;
+  return e;
+}
+
+}  // namespace
+
+AboutBox::AboutBox(Program& program) : Form(program, "AboutBox") {}
+
+void AboutBox::Form_Load() {
+  Caption = "About " + shared().product_title;
+  Width = 7200;
+  Height = 4560;
+
+  Element& stars = placed(add("stars", Kind::Picture), 0, 0, Width, 2880);
+  stars.BackColor = color::Black;
+  starField_ = std::make_unique<StarField>(stars);
+
+  Element& title = placed(add("Label1", Kind::Label), 240, 3000, 6720, 420);
+  title.Caption = shared().product_title;
+  title.FontSize = 14;
+  title.FontBold = true;
+  title.Alignment = AlignCenter;
+  Element& version = placed(add("Label2", Kind::Label), 240, 3480, 6720, 285);
+  version.Caption = "Version 1.0";
+  version.Alignment = AlignCenter;
+
+  Element& ok = placed(add("Cmd_OK", Kind::Button), 5760, 3960, 1200, 420);
+  ok.Caption = "OK";
+  ok.Default = true;
+  handle("Cmd_OK_Click", [this] { Unload(); });
+
+  // Slower than the launcher's field: the box is small and only decoration.
+  Element& timer = add("Timer1", Kind::Timer);
+  timer.Interval = 20;
+  handle("Timer1_Timer", [this] { starField_->tick(*this); });
+}
+
+}  // namespace vrask

@@ -1,0 +1,60 @@
+#include "frame/helpers.h"
+
+#include <cctype>
+#include <cstdlib>
+
+#include "toolkit/form.h"
+
+namespace vrask {
+
+namespace {
+
+bool isBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+// The longest head of `s` that reads as a number: sign, digits, one decimal
+// point, and an exponent only when digits follow it.
+std::string numberHead(const std::string& s) {
+  std::size_t i = 0;
+  auto digits = [&] {
+    while (i < s.size() && std::isdigit(static_cast<unsigned char>(s[i])) != 0) ++i;
+  };
+  if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
+  digits();
+  if (i < s.size() && s[i] == '.') {
+    ++i;
+    digits();
+  }
+  std::size_t mantissaEnd = i;
+  if (i < s.size() && (s[i] == 'e' || s[i] == 'E')) {
+    ++i;
+    if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
+    std::size_t exponentStart = i;
+    digits();
+    if (i == exponentStart) i = mantissaEnd;
+  }
+  return s.substr(0, i);
+}
+
+}  // namespace
+
+double Val(const std::string& text) {
+  // Blanks count for nothing anywhere in the text: "1 2" reads as 12.
+  std::string packed;
+  for (char c : text) {
+    if (!isBlank(c)) packed += c;
+  }
+  std::string head = numberHead(packed);
+  return head.empty() ? 0 : std::strtod(head.c_str(), nullptr);
+}
+
+void setDefaultButton(Form& form, Element& button) {
+  for (ElementArray* array : form.designOrder()) {
+    if (array->kind() != Kind::Button) continue;
+    for (Element& e : *array) e.Default = false;
+  }
+  button.Default = true;
+}
+
+}  // namespace vrask
