@@ -44,6 +44,7 @@ void AboutBox::Form_Load() {
   // Slower than the launcher's field: the box is small and only decoration.
   Element& timer = add("Timer1", Kind::Timer);
   timer.Interval = 20;
+  timer.Enabled = true;
   handle("Timer1_Timer", [this] { starField_->tick(*this); });
 }
 

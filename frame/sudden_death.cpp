@@ -46,7 +46,6 @@ SuddenDeath::SuddenDeath(Form& form, const SuddenDeathConfig& config) : form_(fo
 
   timer_ = &form.add(config.timer, Kind::Timer);
   timer_->Interval = config.interval;
-  timer_->Enabled = false;
   form.handle(config.timer + "_Timer", [this] { tick(); });
 
   bar_ = &form.add("Picture5", Kind::Picture);

@@ -174,12 +174,15 @@ void title::addSplash() {
 
   Element& stars = add("Timer1", Kind::Timer);
   stars.Interval = 1;
+  stars.Enabled = true;
   handle("Timer1_Timer", [this] { starField_->tick(*this); });
   splashTimer_ = &add("Timer2", Kind::Timer);
   splashTimer_->Interval = 6000;
+  splashTimer_->Enabled = true;
   handle("Timer2_Timer", [this] { hideblurb(); });
   Element& blink = add("Timer3", Kind::Timer);
   blink.Interval = 4000;
+  blink.Enabled = true;
   handle("Timer3_Timer", [this] { blinkPrompt(); });
 }
 
@@ -219,7 +222,6 @@ void title::addFrontPage() {
   emblem_ = std::make_unique<Emblem>(viewer);
   emblemTimer_ = &add("tmrAni", Kind::Timer);
   emblemTimer_->Interval = 1;
-  emblemTimer_->Enabled = false;
   handle("tmrAni_Timer", [this] {
     emblem_->turn();
     showblurb();
