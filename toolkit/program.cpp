@@ -103,9 +103,7 @@ void Program::settle() {
 
 Program::Result Program::userEvent(Form& form, const Element& e, const std::string& handler,
                                    int keyCode) {
-  if (ended_) return {Outcome::Ignored, "the program has ended"};
-  if (inPlainWait_) return {Outcome::Ignored, "a wait is in progress"};
-  if (auto why = form.whyUnreachable(e)) return {Outcome::Ignored, *why};
+  if (auto why = whyRefused(form, e)) return {Outcome::Ignored, *why};
   bool ran = false;
   {
     Depth depth(*this);
@@ -113,6 +111,12 @@ Program::Result Program::userEvent(Form& form, const Element& e, const std::stri
   }
   settle();
   return {ran ? Outcome::Done : Outcome::NoSuchHandler, {}};
+}
+
+std::optional<std::string> Program::whyRefused(const Form& form, const Element& e) const {
+  if (ended_) return "the program has ended";
+  if (inPlainWait_) return "a wait is in progress";
+  return form.whyUnreachable(e);
 }
 
 void Program::timerTick(Form& form, Element& timer) {

@@ -58,6 +58,10 @@ class Program {
   // the person could not reach the element now. Queued navigation is carried
   // out when the outermost handler returns.
   Result userEvent(Form& form, const Element& e, const std::string& handler, int keyCode = 0);
+  // Why userEvent would refuse an event on `e` now, or nothing when it would
+  // deliver it (for callers that change an element before its event, as
+  // typing into a text box does).
+  std::optional<std::string> whyRefused(const Form& form, const Element& e) const;
   // A timer's tick; nothing when the timer is off.
   void timerTick(Form& form, Element& timer);
 

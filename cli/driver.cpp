@@ -1,0 +1,326 @@
+#include "cli/driver.h"
+
+#include <istream>
+#include <map>
+#include <ostream>
+
+#include "cli/dump.h"
+#include "cli/expression.h"
+#include "cli/lookup.h"
+#include "launcher/suite.h"
+
+namespace vrask::cli {
+
+// The words of a command line after the command.
+class Driver::Args {
+ public:
+  explicit Args(const ScriptLine& line) : line_(line) {}
+
+  size_t size() const { return line_.tokens.size() - 1; }
+  bool has(size_t i) const { return i < size(); }
+  const Token& token(size_t i, const std::string& what) const {
+    if (!has(i)) throw ScriptError("missing argument: " + what);
+    return line_.tokens[i + 1];
+  }
+  // A bare word: names, numbers, keys.
+  const std::string& word(size_t i, const std::string& what) const {
+    const Token& t = token(i, what);
+    if (t.quoted) throw ScriptError("expected " + what + ", not a quoted string");
+    return t.text;
+  }
+  void atMost(size_t n) const {
+    if (size() > n) throw ScriptError("unexpected argument: " + line_.tokens[n + 1].text);
+  }
+  // The text after the command word, as written.
+  std::string rest() const {
+    const std::string& command = line_.tokens.front().text;
+    size_t from = line_.text.find_first_not_of(" \t", command.size());
+    return from == std::string::npos ? "" : line_.text.substr(from);
+  }
+  const ScriptLine& line() const { return line_; }
+
+ private:
+  const ScriptLine& line_;
+};
+
+namespace {
+
+const std::map<std::string, int>& keyCodes() {
+  static const std::map<std::string, int> codes{
+      {"Enter", key::Enter}, {"Left", key::Left}, {"Right", key::Right}};
+  return codes;
+}
+
+int keyCode(const std::string& name) {
+  auto it = keyCodes().find(name);
+  if (it != keyCodes().end()) return it->second;
+  if (name.size() == 1 && name[0] >= '0' && name[0] <= '9') return key::Digit0 + (name[0] - '0');
+  throw ScriptError("unknown key " + name + " (Enter, Left, Right or a digit)");
+}
+
+bool isDigitKey(int code) {
+  return code >= key::Digit0 && code <= key::Digit0 + 9;
+}
+
+// The commands a `during-wait` may hold: what a person can do while the
+// program waits.
+bool canBeHeld(const std::string& command) {
+  return command == "click" || command == "dblclick" || command == "mousemove" ||
+         command == "text" || command == "key" || command == "tick";
+}
+
+}  // namespace
+
+Driver::Driver(std::ostream& out, std::ostream& err) : out_(out), err_(err), program_(host_) {
+  registerSuite(program_);
+}
+
+int Driver::run(std::istream& script) {
+  std::string text;
+  try {
+    while (std::getline(script, text)) {
+      ++line_;
+      runLine(readLine(text));
+    }
+    // A held line at the end of the script meets no wait at all.
+    if (held_) {
+      line_ = held_->number;
+      ignored("the script ended before any wait let events through");
+    }
+  } catch (const ScriptError& e) {
+    err_ << "ERROR line " << line_ << ": " << e.what() << '\n';
+    return 2;
+  } catch (const std::exception& e) {
+    err_ << "ERROR line " << line_ << ": the program failed: " << e.what() << '\n';
+    return 2;
+  }
+  return failed_ ? 1 : 0;
+}
+
+void Driver::runLine(const ScriptLine& line) {
+  if (line.tokens.empty()) return;
+  const Token& command = line.tokens.front();
+  if (program_.ended() && command.text != "expect" && command.text != "dump") {
+    throw ScriptError("the program has ended: only expect and dump may follow");
+  }
+  std::optional<Held> held = std::move(held_);
+  held_.reset();
+  if (held) host_.setPump([this, &held] { deliver(*held); });
+  try {
+    execute(line);
+  } catch (...) {
+    host_.setPump(nullptr);
+    throw;
+  }
+  host_.setPump(nullptr);
+  if (!held) return;
+  int current = line_;
+  line_ = held->number;
+  if (held->error) throw ScriptError(*held->error);
+  if (!held->delivered) ignored("line " + std::to_string(current) + " let no events through");
+  line_ = current;
+}
+
+void Driver::execute(const ScriptLine& line) {
+  static const std::map<std::string, Command> commands{{"start", &Driver::start},
+                                                       {"open", &Driver::open},
+                                                       {"shared", &Driver::shared},
+                                                       {"click", &Driver::click},
+                                                       {"dblclick", &Driver::dblclick},
+                                                       {"mousemove", &Driver::mousemove},
+                                                       {"text", &Driver::text},
+                                                       {"key", &Driver::key},
+                                                       {"tick", &Driver::tick},
+                                                       {"rnd", &Driver::rnd},
+                                                       {"during-wait", &Driver::duringWait},
+                                                       {"expect", &Driver::expect},
+                                                       {"dump", &Driver::dump}};
+  const Token& command = line.tokens.front();
+  auto it = commands.find(command.text);
+  if (command.quoted || it == commands.end()) {
+    throw ScriptError("unknown command " + command.text);
+  }
+  (this->*(it->second))(Args(line));
+}
+
+// The host calls this inside the next wait that lets events through; the
+// held line is delivered once, and a mistake in it is kept until the wait is
+// over, so that it never unwinds through the form's own code.
+void Driver::deliver(Held& held) {
+  if (held.delivered) return;
+  held.delivered = true;
+  int outer = line_;
+  line_ = held.number;
+  try {
+    execute(held.line);
+  } catch (const ScriptError& e) {
+    held.error = e.what();
+  }
+  line_ = outer;
+}
+
+void Driver::ignored(const std::string& why) {
+  out_ << "ignored line " << line_ << ": " << why << '\n';
+}
+
+Element& Driver::eventTarget(const Args& args, bool indexMayFollow) {
+  Reference ref = parseReference(args.word(0, "an element name"));
+  // `click Label1 5` and `click Label1(5)` are the same click.
+  if (indexMayFollow && ref.indexes.empty() && args.has(1)) {
+    ref.indexes.push_back(parseInteger(args.word(1, "an index")));
+  }
+  return findElement(currentForm(program_), ref);
+}
+
+void Driver::fireEvent(const Args& args, const std::string& event) {
+  args.atMost(2);
+  Element& target = eventTarget(args, true);
+  Program::Result result =
+      program_.userEvent(currentForm(program_), target, target.name + "_" + event);
+  if (result.outcome == Program::Outcome::Ignored) ignored(result.why);
+}
+
+bool Driver::focusOn(Form& form, Element& box) {
+  if (auto why = program_.whyRefused(form, box)) {
+    ignored(*why);
+    return false;
+  }
+  if (form.focus == box.displayName()) return true;
+  form.focus = box.displayName();
+  program_.userEvent(form, box, box.name + "_GotFocus");
+  return program_.current() == &form && !program_.whyRefused(form, box);
+}
+
+void Driver::start(const Args& args) {
+  args.atMost(0);
+  program_.open("title");
+}
+
+void Driver::open(const Args& args) {
+  args.atMost(1);
+  const std::string& name = args.word(0, "a form name");
+  if (!program_.knowsForm(name)) throw ScriptError("unknown form " + name);
+  program_.open(name);
+}
+
+void Driver::shared(const Args& args) {
+  args.atMost(2);
+  const std::string& name = args.word(0, "a shared value's name");
+  int value = parseInteger(args.word(1, "a value"));
+  if (name == "bubbleland_start") {
+    program_.shared().bubbleland_start = value;
+  } else if (name == "wall_level") {
+    program_.shared().wall_level = value;
+  } else {
+    throw ScriptError("unknown shared value " + name + " (bubbleland_start or wall_level)");
+  }
+}
+
+void Driver::click(const Args& args) {
+  fireEvent(args, "Click");
+}
+
+void Driver::dblclick(const Args& args) {
+  fireEvent(args, "DblClick");
+}
+
+void Driver::mousemove(const Args& args) {
+  fireEvent(args, "MouseMove");
+}
+
+// The whole text is replaced, as by selecting it and typing; the box's Change
+// event follows, as it does for every change of its text.
+void Driver::text(const Args& args) {
+  args.atMost(2);
+  Element& box = eventTarget(args, false);
+  if (box.kind != Kind::TextBox) throw ScriptError(box.displayName() + " is not a text box");
+  std::string value = args.token(1, "the text").text;
+  Form& form = currentForm(program_);
+  if (!focusOn(form, box)) return;
+  box.Text = value;
+  program_.userEvent(form, box, box.name + "_Change");
+}
+
+// A key goes to its control's KeyDown. A digit typed into a text box then
+// also stands in the box, as it would for a person: the key first, then the
+// text grows by the digit and the box's Change event follows.
+void Driver::key(const Args& args) {
+  args.atMost(2);
+  Element& target = eventTarget(args, false);
+  int code = keyCode(args.word(1, "a key"));
+  Form& form = currentForm(program_);
+  bool isBox = target.kind == Kind::TextBox;
+  if (isBox && !focusOn(form, target)) return;
+  Program::Result result = program_.userEvent(form, target, target.name + "_KeyDown", code);
+  if (result.outcome == Program::Outcome::Ignored) {
+    ignored(result.why);
+    return;
+  }
+  if (!isBox || !isDigitKey(code)) return;
+  if (program_.current() != &form || program_.whyRefused(form, target)) return;
+  target.Text += static_cast<char>(code);
+  program_.userEvent(form, target, target.name + "_Change");
+}
+
+void Driver::tick(const Args& args) {
+  args.atMost(2);
+  Form& form = currentForm(program_);
+  Element& timer = findElement(form, parseReference(args.word(0, "a timer's name")));
+  if (timer.kind != Kind::Timer) throw ScriptError(timer.displayName() + " is not a timer");
+  int count = args.has(1) ? parseInteger(args.word(1, "a count")) : 1;
+  if (count < 0) throw ScriptError("bad number: a count cannot be negative");
+  if (!timer.Enabled) {
+    ignored(timer.displayName() + " is off");
+    return;
+  }
+  // A tick may end the program or leave the form; the rest then never come.
+  for (int i = 0; i < count; ++i) {
+    if (program_.ended() || program_.current() != &form || !timer.Enabled) return;
+    program_.timerTick(form, timer);
+  }
+}
+
+void Driver::rnd(const Args& args) {
+  args.word(0, "a value in [0, 1)");
+  std::vector<double> values;
+  for (size_t i = 0; args.has(i); ++i) {
+    const std::string& word = args.word(i, "a value in [0, 1)");
+    double v = parseNumber(word);
+    if (v < 0 || v >= 1) throw ScriptError("bad number: " + word + " is not in [0, 1)");
+    values.push_back(v);
+  }
+  for (double v : values) host_.random().pin(v);
+}
+
+void Driver::duringWait(const Args& args) {
+  const std::string& command = args.word(0, "a command to hold");
+  if (!canBeHeld(command)) {
+    throw ScriptError(
+        "during-wait holds a click, dblclick, mousemove, text, key or tick line, not " + command);
+  }
+  Held held;
+  held.number = line_;
+  held.line.tokens.assign(args.line().tokens.begin() + 1, args.line().tokens.end());
+  held.line.text = args.rest();
+  held_ = std::move(held);
+}
+
+void Driver::expect(const Args& args) {
+  args.atMost(3);
+  const std::string& lhs = args.word(0, "what to check");
+  const std::string& op = args.word(1, "an operator");
+  Value expected = parseLiteral(args.token(2, "a value to compare with"));
+  checkOperator(op, expected);
+  Value actual = evaluate(program_, host_, lhs);
+  if (compare(actual, op, expected)) return;
+  failed_ = true;
+  err_ << "FAIL line " << line_ << ": " << args.rest() << " (got " << toJson(actual) << ")\n";
+}
+
+void Driver::dump(const Args& args) {
+  std::vector<std::string> names;
+  for (size_t i = 0; args.has(i); ++i) names.push_back(args.word(i, "a name"));
+  out_ << cli::dump(program_, host_, names) << '\n';
+}
+
+}  // namespace vrask::cli

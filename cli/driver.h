@@ -1,0 +1,71 @@
+// The script driver: runs a script of user actions against the whole program
+// without a screen, prints what is asked, and tells by its exit status
+// whether every expectation held (0), one failed (1) or the script was wrong
+// (2).
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include "cli/script.h"
+#include "toolkit/headless_host.h"
+#include "toolkit/program.h"
+
+namespace vrask::cli {
+
+class Driver {
+ public:
+  // `out` gets dumps and the notes on ignored lines; `err` the failed
+  // expectations and the script error.
+  Driver(std::ostream& out, std::ostream& err);
+
+  int run(std::istream& script);
+
+ private:
+  class Args;
+  using Command = void (Driver::*)(const Args&);
+  // A line of `during-wait`, waiting for the next pumping wait.
+  struct Held {
+    ScriptLine line;
+    int number = 0;
+    bool delivered = false;
+    std::optional<std::string> error;
+  };
+
+  void runLine(const ScriptLine& line);
+  void execute(const ScriptLine& line);
+  void deliver(Held& held);
+  void ignored(const std::string& why);
+  // The element a command names: `NAME`, `NAME(I)`, or `NAME I` where the
+  // index may follow as a word of its own.
+  Element& eventTarget(const Args& args, bool indexMayFollow);
+  // Puts the keyboard focus on a text box, as a person's click into it does;
+  // false when the box could not be reached.
+  bool focusOn(Form& form, Element& box);
+  void fireEvent(const Args& args, const std::string& event);
+
+  void start(const Args& args);
+  void open(const Args& args);
+  void shared(const Args& args);
+  void click(const Args& args);
+  void dblclick(const Args& args);
+  void mousemove(const Args& args);
+  void text(const Args& args);
+  void key(const Args& args);
+  void tick(const Args& args);
+  void rnd(const Args& args);
+  void duringWait(const Args& args);
+  void expect(const Args& args);
+  void dump(const Args& args);
+
+  std::ostream& out_;
+  std::ostream& err_;
+  HeadlessHost host_;
+  Program program_;
+  int line_ = 0;
+  bool failed_ = false;
+  std::optional<Held> held_;
+};
+
+}  // namespace vrask::cli

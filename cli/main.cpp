@@ -1,0 +1,86 @@
+// vrask-cli: runs the suite without a screen, from a script of user actions
+// (see --help), or plays series of games as a benchmark.
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <string>
+
+#include "cli/bench.h"
+#include "cli/driver.h"
+
+namespace {
+
+constexpr const char* kUsage = R"(Usage:
+  vrask-cli [SCRIPT]           run a script of user actions (from stdin without SCRIPT or with -)
+  vrask-cli bench [--games N]  play N games of each series headless and report speed (N: 1 by default)
+  vrask-cli --help             this text
+
+Script: one command a line; # starts a comment.
+  start                      the program starts: the form title loads
+  open FORM                  load FORM and make it current (no shared value written)
+  shared NAME VALUE          set bubbleland_start or wall_level
+  click NAME [I]             NAME_Click on the current form (also NAME(I))
+  dblclick NAME [I]          NAME_DblClick
+  mousemove NAME [I]         NAME_MouseMove
+  text NAME VALUE            type VALUE into the text box NAME (a word or a "quoted string")
+  key NAME KEY               a key in NAME: Enter, Left, Right or a digit 0-9
+  tick NAME [COUNT]          fire timer NAME COUNT times (1), each only while it is enabled
+  rnd V1 [V2 ...]            the next calls of Rnd return V1, V2, ... (each in [0, 1))
+  during-wait COMMAND        deliver COMMAND (click, dblclick, mousemove, text, key, tick)
+                             inside the next wait that lets events through
+  expect LHS OP RHS          OP: == != < <= > >= contains
+                             LHS: form, ended, clock, messages, message, messagetitle,
+                                  shared.NAME, var.NAME[(i[,j])], ELEMENT.PROPERTY
+                             RHS: a number, true, false or a "string" with JSON escapes
+  dump [NAME ...]            the current form as JSON; with names, only those elements or variables
+
+A target a person could not reach now prints "ignored line N: <why>" and the script goes on.
+Exit status: 0 every expect held; 1 one or more failed ("FAIL line N: ..." on stderr);
+2 a script error ("ERROR line N: <reason>" on stderr; the run stops there).
+)";
+
+int runScript(std::istream& script) {
+  vrask::cli::Driver driver(std::cout, std::cerr);
+  return driver.run(script);
+}
+
+int usageError(const std::string& what) {
+  std::cerr << "vrask-cli: " << what << "\n\n" << kUsage;
+  return 2;
+}
+
+int runBench(int argc, char** argv) {
+  int games = 1;
+  for (int i = 2; i < argc; ++i) {
+    if (std::strcmp(argv[i], "--games") != 0 || i + 1 >= argc) {
+      return usageError(std::string("unknown bench option ") + argv[i]);
+    }
+    try {
+      games = std::stoi(argv[++i]);
+    } catch (const std::exception&) {
+      games = 0;
+    }
+    if (games < 1) return usageError("--games needs a whole number from 1");
+  }
+  return vrask::cli::bench(games, std::cout);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc >= 2 && std::strcmp(argv[1], "bench") == 0) return runBench(argc, argv);
+  if (argc > 2) return usageError("give at most one script");
+  std::string arg = argc == 2 ? argv[1] : "-";
+  if (arg == "--help" || arg == "-h") {
+    std::cout << kUsage;
+    return 0;
+  }
+  if (arg == "-") return runScript(std::cin);
+  if (!arg.empty() && arg[0] == '-') return usageError("unknown option " + arg);
+  std::ifstream script(arg);
+  if (!script) {
+    std::cerr << "vrask-cli: cannot read " << arg << '\n';
+    return 2;
+  }
+  return runScript(script);
+}
