@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstdint>
 #include <iomanip>
 #include <ostream>
@@ -178,7 +179,7 @@ class SeriesRun {
 double percentile(std::vector<double> values, double p) {
   if (values.empty()) return 0;
   std::sort(values.begin(), values.end());
-  size_t at = static_cast<size_t>(p * static_cast<double>(values.size() - 1) + 0.5);
+  auto at = static_cast<size_t>(std::lround(p * static_cast<double>(values.size() - 1)));
   return values[at];
 }
 
@@ -205,7 +206,7 @@ void report(const Totals& totals, std::ostream& out) {
 
 }  // namespace
 
-int bench(int games, std::ostream& out) {
+int bench(int games, std::ostream& out, std::ostream& err) {
   Totals totals;
   try {
     std::vector<Series> series = allSeries();
@@ -217,7 +218,7 @@ int bench(int games, std::ostream& out) {
           << totals.moves - movesBefore << " moves\n";
     }
   } catch (const std::exception& e) {
-    out << "bench: " << e.what() << '\n';
+    err << "bench: " << e.what() << '\n';
     return 1;
   }
   report(totals, out);

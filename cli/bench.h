@@ -6,8 +6,9 @@
 
 namespace vrask::cli {
 
-// Plays `games` games of each series and prints the report to `out`.
-// Returns the exit status: 0, or 1 when a game could not be played through.
-int bench(int games, std::ostream& out);
+// Plays `games` games of each series (the first on the board as it loads,
+// the others each after "New") and prints the report to `out`. Returns the
+// exit status: 0, or 1 when a game could not be played through (said on `err`).
+int bench(int games, std::ostream& out, std::ostream& err);
 
 }  // namespace vrask::cli

@@ -50,8 +50,10 @@ Value readProperty(const Element& element, const std::string& property) {
   bool isList = element.kind == Kind::ListBox && ref.name == "List";
   if (isList && !arg) throw ScriptError("missing argument: write List(row)");
   if (isList) {
-    throw ScriptError("index out of range: " + element.displayName() + "." + property +
-                      ", the list has " + std::to_string(element.ListCount()) + " rows from 0");
+    std::string rows =
+        element.ListCount() == 0 ? " is empty" : " has rows " + range(0, element.ListCount() - 1);
+    throw ScriptError("index out of range: " + element.displayName() + "." + property + ", " +
+                      element.displayName() + rows);
   }
   throw ScriptError("unknown property " + property + " of " + element.displayName() + " (a " +
                     std::string(kindName(element.kind)) + ")");

@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* kUsage = R"(Usage:
   vrask-cli [SCRIPT]           run a script of user actions (from stdin without SCRIPT or with -)
-  vrask-cli bench [--games N]  play N games of each series headless and report speed (N: 1 by default)
+  vrask-cli bench [--games N]  play N games of each series headless and report speed (N: 2)
   vrask-cli --help             this text
 
 Script: one command a line; # starts a comment.
@@ -50,7 +50,7 @@ int usageError(const std::string& what) {
 }
 
 int runBench(int argc, char** argv) {
-  int games = 1;
+  int games = 2;
   for (int i = 2; i < argc; ++i) {
     if (std::strcmp(argv[i], "--games") != 0 || i + 1 >= argc) {
       return usageError(std::string("unknown bench option ") + argv[i]);
@@ -62,7 +62,7 @@ int runBench(int argc, char** argv) {
     }
     if (games < 1) return usageError("--games needs a whole number from 1");
   }
-  return vrask::cli::bench(games, std::cout);
+  return vrask::cli::bench(games, std::cout, std::cerr);
 }
 
 }  // namespace
