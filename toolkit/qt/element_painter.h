@@ -1,0 +1,44 @@
+// Paints the drawn elements of a form: lines, shapes, labels and pictures,
+// at the design's place scaled to the window.
+#pragma once
+
+#include <QPainter>
+
+#include "toolkit/qt/placement.h"
+
+namespace vrask {
+struct Element;
+class Form;
+}  // namespace vrask
+
+namespace vrask::qt {
+
+class ElementPainter {
+ public:
+  ElementPainter(QPainter& painter, const Placement& placement, const ViewScale& scale,
+                 const QPalette& palette)
+      : painter_(painter), placement_(placement), scale_(scale), palette_(palette) {}
+
+  // The whole form: its back colour over the whole widget, then every shown
+  // element in design order, each cut to the pictures that hold it.
+  void paintForm(Form& form);
+
+ private:
+  void paint(const Element& e);
+  void paintLine(const Element& e);
+  void paintShape(const Element& e);
+  void paintLabel(const Element& e);
+  void paintPicture(const Element& e);
+  QPen pen(int colour, int widthInPixels) const;
+
+  QPainter& painter_;
+  const Placement& placement_;
+  const ViewScale& scale_;
+  const QPalette& palette_;
+};
+
+// A font of `points` at the design's size, scaled to the window.
+QFont scaledFont(const QFont& base, double points, bool bold, const ViewScale& scale,
+                 int logicalDpi);
+
+}  // namespace vrask::qt
