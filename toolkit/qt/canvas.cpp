@@ -25,6 +25,16 @@ Canvas::Canvas(Form& form, FireEvent fire, QWidget* parent)
   // Clicks on the board leave the keyboard focus in the text box.
   setFocusPolicy(Qt::NoFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
+  // The forms are laid out for a narrow sans-serif face: captions sized to
+  // their labels in it would wrap in a wider one.
+  QFont face(QStringLiteral("Liberation Sans"));
+  face.setStyleHint(QFont::SansSerif);
+  setFont(face);
+}
+
+void Canvas::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (resized_) resized_();
 }
 
 ViewScale Canvas::scale() const {

@@ -2,6 +2,8 @@
 // and the mouse routed back to the element under it.
 #pragma once
 
+#include <functional>
+
 #include <QWidget>
 
 #include "toolkit/qt/controls.h"
@@ -18,11 +20,15 @@ class Canvas : public QWidget {
   // The form is going: nothing of it is painted or touched again.
   void detach() { form_ = nullptr; }
 
+  // Called after every change of size (the controls move with the form).
+  void onResize(std::function<void()> resized) { resized_ = std::move(resized); }
+
   // Where the middle of `e` is on the canvas, in pixels.
   QPoint centreOf(const Element& e) const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -37,6 +43,7 @@ class Canvas : public QWidget {
   Form* form_;
   FireEvent fire_;
   Placement placement_;
+  std::function<void()> resized_;
   Element* pressed_ =
       nullptr;  // the element a press began on: a click needs press and release on it
 };

@@ -1,6 +1,7 @@
 #include "toolkit/qt/element_painter.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "toolkit/form.h"
 #include "toolkit/qt/colors.h"
@@ -23,6 +24,17 @@ QRectF squareIn(const QRectF& box) {
   QRectF square(0, 0, side, side);
   square.moveCenter(box.center());
   return square;
+}
+
+// A line of a whole number of pixels lies on the pixel grid, so that a free
+// line stays one crisp pixel and not two half-tones.
+double onGrid(double pixels, double penWidth) {
+  bool odd = static_cast<int>(penWidth) % 2 == 1;
+  return odd ? std::floor(pixels) + 0.5 : std::round(pixels);
+}
+
+QPointF onGrid(QPointF point, double penWidth) {
+  return {onGrid(point.x(), penWidth), onGrid(point.y(), penWidth)};
 }
 
 }  // namespace
@@ -89,9 +101,11 @@ QPen ElementPainter::pen(int colour, int widthInPixels) const {
 }
 
 void ElementPainter::paintLine(const Element& e) {
-  painter_.setPen(pen(e.BorderColor, e.BorderWidth));
-  painter_.drawLine(scale_.toPixels(placement_.lineStart(e)),
-                    scale_.toPixels(placement_.lineEnd(e)));
+  QPen linePen = pen(e.BorderColor, e.BorderWidth);
+  linePen.setWidthF(std::round(linePen.widthF()));
+  painter_.setPen(linePen);
+  painter_.drawLine(onGrid(scale_.toPixels(placement_.lineStart(e)), linePen.widthF()),
+                    onGrid(scale_.toPixels(placement_.lineEnd(e)), linePen.widthF()));
 }
 
 void ElementPainter::paintShape(const Element& e) {

@@ -30,6 +30,9 @@ FormWindow::FormWindow(FormWindows& windows, Form& form, FormWindow* over)
   canvas_ = new Canvas(form, fire, this);
   setCentralWidget(canvas_);
   controls_ = new Controls(*canvas_, form, fire);
+  canvas_->onResize([this] {
+    if (form_ != nullptr) controls_->sync(canvas_->placement(), canvas_->scale());
+  });
   bool hasMenus = std::any_of(form.designOrder().begin(), form.designOrder().end(),
                               [](const ElementArray* a) { return a->kind() == Kind::MenuItem; });
   if (hasMenus) menus_ = std::make_unique<Menus>(*menuBar(), form, fire);

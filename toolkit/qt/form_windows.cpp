@@ -25,7 +25,6 @@ void FormWindows::formShown(Form& form) {
   auto* window = new FormWindow(*this, form, over);
   windows_.emplace_back(window);
   window->show();
-  window->raise();
   window->activateWindow();
 }
 

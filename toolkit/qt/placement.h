@@ -59,12 +59,15 @@ class ViewScale {
   QPointF toPixels(QPointF twips) const { return offset_ + twips * factor_; }
   QRectF toPixels(const QRectF& twips) const;
   double toPixels(double twips) const { return twips * factor_; }
-  QPointF toTwips(QPointF pixels) const { return (pixels - offset_) / factor_; }
+  // Nowhere on the design while the window has no size.
+  QPointF toTwips(QPointF pixels) const {
+    return factor_ > 0 ? (pixels - offset_) / factor_ : QPointF(-1, -1);
+  }
   // The design's rectangle in the window.
   QRectF designRect() const { return designRect_; }
 
  private:
-  double factor_ = 1;
+  double factor_ = 0;
   QPointF offset_;
   QRectF designRect_;
 };

@@ -1,0 +1,52 @@
+// The front page in the real window: the splash gives way to the labels on
+// its own timer, a label lights up under the mouse, and a click launches.
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "launcher/title.h"
+#include "tests/gui/harness.h"
+
+namespace vrask::gui_test {
+
+TEST(Launcher, FrontPageComesAfterTheSplashAndALabelLaunchesTheSquareBoard) {
+  WindowRun run;
+  run.program.open("title");
+  run.window().resize(1100, 660);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&run.window()));
+  QTest::qWait(400);
+  run.screenshot(run.window(), "title-splash");
+
+  // `Timer2` is a real timer of six seconds.
+  Element& launch = run.element("Label11", 6);
+  ASSERT_TRUE(WindowRun::waitFor([&] { return launch.Visible; }, 10000));
+  QTest::qWait(300);
+  run.screenshot(run.window(), "title-front-page");
+
+  if (!run.program.knowsForm("Form1large")) {
+    run.click(launch);
+    EXPECT_EQ(run.form().name(), "title");
+    GTEST_SKIP() << "the square board is not in the suite yet";
+  }
+  run.hover(launch);
+  EXPECT_EQ(launch.ForeColor, title::kHover);
+  run.screenshot(run.window(), "title-hover");
+
+  run.click(launch);
+  ASSERT_EQ(run.form().name(), "Form1large");
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&run.window()));
+  EXPECT_EQ(run.program.shared().bubbleland_start, 0);
+  QTest::qWait(200);
+  run.screenshot(run.window(), "board-after-launch");
+}
+
+TEST(Launcher, ExitButtonEndsTheProgram) {
+  WindowRun run;
+  run.program.open("title");
+  QTest::mouseClick(run.control("Command3"), Qt::LeftButton);
+  EXPECT_TRUE(run.program.ended());
+  EXPECT_TRUE(run.quit);
+}
+
+}  // namespace vrask::gui_test
