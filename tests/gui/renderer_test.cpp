@@ -2,10 +2,13 @@
 // how controls, menus and timers follow the records.
 #include <cstdlib>
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -97,6 +100,13 @@ TEST_F(Renderer, ClickGoesToTheTopmostElementThatCanTakeIt) {
   // The mouse moving over the stack is heard by the one that listens for it.
   run.hover(run.element("over"));
   EXPECT_GT(sketch().hoverMoves, 0);
+
+  // A tip shows also on a disabled element: it may tell why it is disabled.
+  run.element("over").Enabled = false;
+  QPoint at = run.centreOf(run.element("over"));
+  QHelpEvent help(QEvent::ToolTip, at, run.window().canvas().mapToGlobal(at));
+  QApplication::sendEvent(&run.window().canvas(), &help);
+  EXPECT_EQ(QToolTip::text(), "on top");
 }
 
 TEST_F(Renderer, ControlsFollowTheRecordsAndReportWhatAPersonDoes) {

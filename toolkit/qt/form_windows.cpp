@@ -11,7 +11,10 @@ FormWindows::FormWindows(Program& program) : program_(program) {
 FormWindows::~FormWindows() {
   program_.setListener(nullptr);
   // Dialogs first: a dialog belongs to the window it stands over.
-  for (auto it = windows_.rbegin(); it != windows_.rend(); ++it) delete it->data();
+  while (!windows_.empty()) {
+    delete windows_.back().data();
+    windows_.pop_back();
+  }
   // Those the event loop had no chance to delete.
   for (const auto& window : retired_) delete window.data();
 }

@@ -1,7 +1,6 @@
 #include "toolkit/qt/placement.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "toolkit/form.h"
 
@@ -49,8 +48,11 @@ std::optional<QRectF> Placement::clipOf(const Element& e) const {
 Element* Placement::topmostAt(QPointF twips,
                               const std::function<bool(const Element&)>& accept) const {
   // Later in design order is painted later, so it is on top.
-  for (ElementArray* array : form_.designOrder() | std::views::reverse) {
-    for (Element& e : *array | std::views::reverse) {
+  const std::vector<ElementArray*>& order = form_.designOrder();
+  for (size_t a = order.size(); a-- > 0;) {
+    ElementArray& array = *order[a];
+    for (int i = array.hi(); i >= array.lo(); --i) {
+      Element& e = array[i];
       if (!shown(e) || !accept(e) || !rectOf(e).contains(twips)) continue;
       std::optional<QRectF> clip = clipOf(e);
       if (clip && !clip->contains(twips)) continue;
