@@ -106,13 +106,4 @@ TEST(Windows, ClosingTheMainWindowEndsTheProgramEvenInAWait) {
   EXPECT_FALSE(run.window().isVisible());
 }
 
-TEST(Windows, ExitEntryEndsTheProgram) {
-  WindowRun run;
-  run.program.open("Sketch");
-  run.window().menus()->actionOf("ex")->trigger();
-  EXPECT_TRUE(run.program.ended());
-  EXPECT_TRUE(run.quit);
-  EXPECT_FALSE(run.window().isVisible());
-}
-
 }  // namespace vrask::gui_test
