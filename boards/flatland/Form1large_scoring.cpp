@@ -1,0 +1,218 @@
+// Judging the board after every move, and the end of a game. The scores are
+// the captions of `Label5(0)` (Blue) and `Label6` (Red): line games add to
+// them, Vrask games rebuild them from the board each time.
+#include "boards/flatland/Form1large.h"
+#include "boards/flatland/captions.h"
+#include "boards/flatland/look.h"
+#include "frame/helpers.h"
+#include "frame/keypad.h"
+#include "frame/round_list.h"
+#include "frame/sudden_death.h"
+
+namespace vrask {
+
+using namespace flatland;
+
+namespace {
+
+constexpr double kPause = 0.5;
+constexpr double kFlashGap = 0.25;
+
+void addPoints(Element& score, int points) {
+  score.Caption = std::to_string(static_cast<int>(Val(score.Caption)) + points);
+}
+
+}  // namespace
+
+// --- line games ----------------------------------------------------------------
+
+void Form1large::checkwins() {
+  showSizeLabels(false);
+  setMenusEnabled(false);
+  sd_->stop();
+
+  std::vector<int> newly = newlyScored();
+  if (!newly.empty()) {
+    addPoints(turnflag == 1 ? Label5(0) : *Label6, static_cast<int>(newly.size()));
+    Label8->Caption.clear();
+  }
+  settleLineTurn(static_cast<int>(newly.size()));
+  flash(newly);
+
+  int taken = 0;
+  for (int L = 1; L <= kLines; ++L) taken += lineown.at(L) != 0 ? 1 : 0;
+  int total = lineCount(boardsize);
+  Label12->Caption = movesLeft(total - taken);
+  if (taken == total) {
+    endOfGame();
+  } else if (ip(0).Checked && turnflag == 1) {
+    computerLineMove();
+  }
+}
+
+// The squares this line completes, in square order, their circles filled in
+// the colour of the side that moved. In Dorvel only the mover's own sides
+// count.
+std::vector<int> Form1large::newlyScored() {
+  sidecount = countOwnedSides(sqowner, gamemode == Dorvel ? moverid : 0);
+  // The label turns orange for Red in a line game; the circle is Red then.
+  int fill = Label33->ForeColor == kOrange ? color::Red : Label33->ForeColor;
+  std::vector<int> newly;
+  for (int s = 1; s <= kSquares; ++s) {
+    if (sidecount.at(s) != 4 || sqscored.at(s) != 0) continue;
+    newly.push_back(s);
+    Shape1(s).FillColor = fill;
+  }
+  return newly;
+}
+
+// Who moves next. `turnflag` is 1 after Blue's line and 0 after Red's. In
+// Ombrel a score earns another move; in Dorvel the turn passes all the same.
+void Form1large::settleLineTurn(int newly) {
+  bool blueMoved = turnflag == 1;
+  const char* mover = blueMoved ? "Blue" : "Red";
+  const char* other = blueMoved ? "Red" : "Blue";
+  if (newly == 0) {
+    Label33->Caption = std::string("No score    ") + other + "'s turn.";
+    Label33->ForeColor = blueMoved ? kOrange : color::Blue;
+    return;
+  }
+  std::string doubleScore = "  Double score!      Two cool!";
+  if (gamemode == Dorvel) {
+    Label33->Caption =
+        newly >= 2 ? doubleScore : std::string(" Score!      ") + other + "'s turn now.";
+    Label33->ForeColor = blueMoved ? color::Red : color::Blue;
+    return;
+  }
+  turnflag = blueMoved ? 0 : 1;
+  Label33->Caption =
+      newly >= 2 ? doubleScore : std::string(" Score!      ") + mover + " goes again.";
+  Label4(0).Visible = !blueMoved;
+  Label4(1).Visible = blueMoved;
+}
+
+// Each new square shows its four lines in yellow for a moment.
+void Form1large::flash(const std::vector<int>& squares) {
+  for (int s : squares) {
+    std::array<int, 5> colours{};
+    for (int k = Top; k <= Left; ++k) {
+      Element& line = ln1(sqline.at(s).at(k));
+      colours.at(k) = line.BorderColor;
+      line.BorderColor = color::Yellow;
+    }
+    Refresh();
+    wait(kPause);
+    for (int k = Top; k <= Left; ++k) ln1(sqline.at(s).at(k)).BorderColor = colours.at(k);
+    Refresh();
+    wait(kFlashGap);
+    sqscored.at(s) = 1;
+  }
+}
+
+// --- Vrask games -----------------------------------------------------------------
+
+// The turn passes, the circles are counted, every square is judged afresh
+// from the colours of its lines, and the last circle is played by the
+// program itself in Black.
+void Form1large::chackmoves() {
+  if (gameover == 1) return;
+  zeroScores();
+  showSizeLabels(false);
+  if (Label33->Caption != kVraskMove) passVraskTurn();
+  setMenusEnabled(false);
+  sd_->stop();
+  zeroScores();
+
+  OpenCircles circles = countOpenCircles();
+  if (circles.open > 1) Label12->Caption = movesLeft(circles.open);
+  if (circles.open == 1) playVraskMove(circles.lastopen);
+  judgeVraskSquares();
+
+  // The judging can close the circle found last: then nothing is played and
+  // the game goes on with the one circle left.
+  int open = countOpenCircles().open;
+  if (open == 1) playVraskMove(circles.lastopen);
+  if (open < 1) {
+    endOfGame();
+  } else if (ip(0).Checked) {
+    computerVraskTurn();
+  }
+  if (ip(0).Checked && !sd_->noLimit()) sd_->restart();
+}
+
+// The open circles on the board (those beyond a smaller board are never
+// played) and the highest-numbered of them.
+Form1large::OpenCircles Form1large::countOpenCircles() {
+  OpenCircles circles{0, 0};
+  for (int s = 1; s <= kSquares; ++s) {
+    if (sqdone.at(s) != 0) continue;
+    ++circles.open;
+    if (squareShows(s)) circles.lastopen = s;
+  }
+  circles.open -= kSquares - boardsize * boardsize;
+  return circles;
+}
+
+// Nobody may play the last circle: the program plays it in Black, nobody's
+// colour, and that settles the game.
+void Form1large::playVraskMove(int lastopen) {
+  Refresh();
+  wait(kPause);
+  Label33->Caption = kVraskMove;
+  Label33->ForeColor = color::Black;
+  compmove(lastopen);
+  zeroScores();
+  Refresh();
+}
+
+void Form1large::judgeVraskSquares() {
+  for (int s = 1; s <= kSquares; ++s) {
+    int blue = 0;
+    int red = 0;
+    for (int k = Top; k <= Left; ++k) {
+      const Element& line = ln1(sqline.at(s).at(k));
+      if (line.BorderWidth != kMarked) continue;
+      blue += line.BorderColor == color::Blue ? 1 : 0;
+      red += line.BorderColor == color::Red ? 1 : 0;
+    }
+    Shape1(s).FillColor = color::Grey;
+    if (blue == 4) claimSquare(s, color::Blue, Label5(0));
+    if (red == 4) claimSquare(s, color::Red, *Label6);
+  }
+}
+
+// A square whole in one colour scores for that side now; the first time, its
+// circle is closed for good, even if it loses the colour later.
+void Form1large::claimSquare(int s, int colour, Element& score) {
+  if (!squareShows(s)) return;
+  addPoints(score, 1);
+  Shape1(s).FillColor = colour;
+  Label2(s).Visible = false;
+  if (sqdone.at(s) == 0) {
+    sqdone.at(s) = 1;
+    Shape1(s).BorderColor = kPurple;
+  }
+}
+
+void Form1large::zeroScores() {
+  Label5(0).Caption = "0";
+  Label6->Caption = "0";
+}
+
+// --- the end of a game ---------------------------------------------------------
+
+// Three rows in the round list and "GAME OVER": the whole announcement. The
+// menus stay closed until New.
+void Form1large::endOfGame() {
+  if (gameover == 1) return;
+  int blue = static_cast<int>(Val(Label5(0).Caption));
+  int red = static_cast<int>(Val(Label6->Caption));
+  gameover = 1;
+  roundList_->recordGame(blue, red);
+  for (Element& label : *Label15_) label.Visible = true;
+  setDefaultButton(*this, *Command1);
+  SetFocus(*Command1);
+  keypad_->panel().Visible = false;
+}
+
+}  // namespace vrask

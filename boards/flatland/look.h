@@ -1,0 +1,17 @@
+// How the square board marks its state: the width of a taken line and the
+// board's own colours, besides Blue, Red, Black, yellow and grey.
+#pragma once
+
+namespace vrask::flatland {
+
+// A taken line is drawn 8 wide, a free one 1.
+inline constexpr int kMarked = 8;
+
+// The turn label in a line game when Red is next.
+inline constexpr int kOrange = 16576;
+// The rim of a circle whose square has been whole in one colour.
+inline constexpr int kPurple = 12583104;
+// The size label of the board's size.
+inline constexpr int kSizeChosen = 16777088;
+
+}  // namespace vrask::flatland
