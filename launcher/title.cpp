@@ -164,9 +164,11 @@ void title::addSplash() {
     label.Visible = false;
     frontPage_.push_back(&label);
   }
-  runner[0].ForeColor = color::Yellow;
-  runner[1].ForeColor = color::Grey;
-  runner[1].Left -= kShadowShift;
+  // Later elements are painted over earlier ones: the shadow is the first,
+  // so that the title stands in front of it.
+  runner[0].ForeColor = color::Grey;
+  runner[0].Left -= kShadowShift;
+  runner[1].ForeColor = color::Yellow;
 
   Element& exit = placed(add("Command3", Kind::Button), kWidth - 1500, kHeight - 600, 1200, 375);
   exit.Caption = "Exit";

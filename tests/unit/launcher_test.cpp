@@ -83,7 +83,7 @@ TEST_F(LauncherFixture, HeadersPlainCaptionsAndTheHiddenSeventhLaunchNothing) {
 TEST_F(LauncherFixture, SplashHidesTheFrontPageUntilTimer2) {
   Form& form = *program.current();
   EXPECT_EQ(form.Caption, "Super Vrask Plus 2014 Desktop");
-  EXPECT_EQ(el("Runner", 1).Left, el("Runner", 0).Left - 240);
+  EXPECT_EQ(el("Runner", 0).Left, el("Runner", 1).Left - 240);
   EXPECT_EQ(el("Runner", 1).Caption, "Super Vrask Plus 2014 Desktop");
   EXPECT_FALSE(label(6).Visible);
   EXPECT_FALSE(el("picViewer").Visible);
