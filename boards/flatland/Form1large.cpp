@@ -22,7 +22,8 @@ namespace {
 // A mid grey: the yellow numbers, the Blue, Red and Black marks and the five
 // design colours all stand out on it.
 constexpr int kBoardColour = 0x606060;
-constexpr int kPanelColour = 0xF0F0F0;
+// A pale blue, on which the grey size buttons show.
+constexpr int kPanelColour = 0xF0E4D8;
 constexpr int kGridNumbers = color::Yellow;
 constexpr double kCircleNumberSize = 18;
 constexpr double kLineNumberSize = 7;
@@ -161,7 +162,7 @@ void Form1large::addScores() {
 }
 
 void Form1large::addSizeLabels() {
-  text(placed(add("Label14", Kind::Label), lay::kSizeHeading), "Board size");
+  Label14 = &text(placed(add("Label14", Kind::Label), lay::kSizeHeading), "Board size");
   Label13_ = &addArray("Label13", Kind::Label, kSmallestSize, kSide);
   for (Element& label : *Label13_) {
     double left = lay::kColumnLeft + lay::kSizeStep * (label.index - kSmallestSize);

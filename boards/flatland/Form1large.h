@@ -132,6 +132,7 @@ class Form1large : public Form {
   Element* Label6 = nullptr;
   Element* Label8 = nullptr;
   Element* Label12 = nullptr;
+  Element* Label14 = nullptr;  // the heading of the size labels
   Element* Label18 = nullptr;
   Element* Label33 = nullptr;
   Element* Label36 = nullptr;
@@ -150,8 +151,11 @@ class Form1large : public Form {
   // --- the game -------------------------------------------------------------
   int gamemode = flatland::SuperVraskPlus;
   int boardsize = flatland::kSide;
-  int turnflag = 0;     // line games: 1 = the next line is Red's
-  int moverid = 1;      // line games: the last mover, 1 Red, 2 Blue
+  int turnflag = 0;  // line games: 1 = the next line is Red's
+  // Line games: the last person to move, 1 Red, 2 Blue. The computer's
+  // lines take this owner too; before anybody has moved it is Red's, so a
+  // computer that opens the first game owns the sides of its lines.
+  int moverid = 1;
   int starterflag = 1;  // flipped by every New
   int compbusy = 0;     // 1 while the computer takes a line
   int gameover = 0;

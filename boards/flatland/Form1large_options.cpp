@@ -203,8 +203,11 @@ void Form1large::setMenusEnabled(bool on) {
   for (Element* menu : {&otherGames_->menu(), kda, sks, ks}) menu->Enabled = on;
 }
 
+// The sizes can be changed only before the first move; their heading goes
+// and comes with them.
 void Form1large::showSizeLabels(bool on) {
   for (Element& label : *Label13_) label.Visible = on;
+  Label14->Visible = on;
 }
 
 int Form1large::checkedSize() const {
