@@ -3,6 +3,7 @@
 // the round list shows the result.
 #include <variant>
 
+#include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
 
@@ -31,7 +32,20 @@ TEST(Game, OnePlayerSuperVraskPlusPlayedToTheEnd) {
   run.screenshot(run.window(), "game-start");
 
   Form& board = run.form();
-  int clicks = 0;
+  // The first move typed on the keypad, as read out over a phone: the panel
+  // opens with the focus in its text box, and Enter there plays the number.
+  QTest::mouseClick(run.control("Command3"), Qt::LeftButton);
+  auto* text = qobject_cast<QLineEdit*>(run.control("Text1"));
+  ASSERT_NE(text, nullptr);
+  EXPECT_TRUE(text->isVisible());
+  EXPECT_EQ(run.window().focusWidget(), text);
+  QTest::keyClicks(text, "41");
+  QTest::keyClick(text, Qt::Key_Return);
+  EXPECT_EQ(variable(board, "sqdone", {41}), 1);
+  EXPECT_EQ(text->text(), "");
+  run.screenshot(run.window(), "game-typed-move");
+
+  int clicks = 1;
   for (int s = 1; s <= 81 && variable(board, "gameover") == 0; ++s) {
     if (variable(board, "sqdone", {s}) != 0) continue;
     run.click("Label2", s);

@@ -1,5 +1,6 @@
 // The front page in the real window: the splash gives way to the labels on
 // its own timer, a label lights up under the mouse, and a click launches.
+#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 
@@ -39,6 +40,20 @@ TEST(Launcher, FrontPageComesAfterTheSplashAndALabelLaunchesTheSquareBoard) {
   EXPECT_EQ(run.program.shared().bubbleland_start, 0);
   QTest::qWait(200);
   run.screenshot(run.window(), "board-after-launch");
+
+  // The board's menus, and its about box over it.
+  QMenu* options = run.window().menus()->menuOf("ks");
+  ASSERT_NE(options, nullptr);
+  options->popup(run.window().mapToGlobal(QPoint(140, 20)));
+  QTest::qWait(100);
+  run.screenshot(*options, "board-options-menu");
+  options->hide();
+  run.window().menus()->actionOf("abt")->trigger();
+  ASSERT_EQ(run.form().name(), "AboutBox");
+  QTest::qWait(300);
+  run.screenshot(run.window(), "board-about-box");
+  QTest::mouseClick(run.control("Cmd_OK"), Qt::LeftButton);
+  EXPECT_EQ(run.form().name(), "Form1large");
 }
 
 TEST(Launcher, ExitButtonEndsTheProgram) {
