@@ -38,7 +38,6 @@ class FormWindows : public Program::Listener {
   FormWindow* windowOf(const Form& form) const;
   // The window of the form events go to, or nullptr.
   FormWindow* currentWindow() const;
-  Program& program() { return program_; }
 
  private:
   Program& program_;
