@@ -15,7 +15,7 @@ namespace vrask::gui_test {
 
 namespace {
 
-double variable(Form& form, const std::string& name, std::vector<int> index = {}) {
+double variable(Form& form, const std::string& name, const std::vector<int>& index = {}) {
   return std::get<double>(form.variables().at(name).get(index));
 }
 
