@@ -72,6 +72,7 @@ bool canBeHeld(const std::string& command) {
 }  // namespace
 
 Driver::Driver(std::ostream& out, std::ostream& err) : out_(out), err_(err), program_(host_) {
+  program_.setListener(&unloadCounter_);
   registerSuite(program_);
 }
 
@@ -187,8 +188,9 @@ bool Driver::focusOn(Form& form, Element& box) {
   }
   if (form.focus == box.displayName()) return true;
   form.focus = box.displayName();
+  long unloads = unloadCounter_.unloads;
   program_.userEvent(form, box, box.name + "_GotFocus");
-  return program_.current() == &form && !program_.whyRefused(form, box);
+  return unloadCounter_.unloads == unloads && !program_.whyRefused(form, box);
 }
 
 void Driver::start(const Args& args) {
@@ -251,13 +253,14 @@ void Driver::key(const Args& args) {
   Form& form = currentForm(program_);
   bool isBox = target.kind == Kind::TextBox;
   if (isBox && !focusOn(form, target)) return;
+  long unloads = unloadCounter_.unloads;
   Program::Result result = program_.userEvent(form, target, target.name + "_KeyDown", code);
   if (result.outcome == Program::Outcome::Ignored) {
     ignored(result.why);
     return;
   }
   if (!isBox || !isDigitKey(code)) return;
-  if (program_.current() != &form || program_.whyRefused(form, target)) return;
+  if (unloadCounter_.unloads != unloads || program_.whyRefused(form, target)) return;
   target.Text += static_cast<char>(code);
   program_.userEvent(form, target, target.name + "_Change");
 }
@@ -274,8 +277,9 @@ void Driver::tick(const Args& args) {
     return;
   }
   // A tick may end the program or leave the form; the rest then never come.
+  long unloads = unloadCounter_.unloads;
   for (int i = 0; i < count; ++i) {
-    if (program_.ended() || program_.current() != &form || !timer.Enabled) return;
+    if (program_.ended() || unloadCounter_.unloads != unloads || !timer.Enabled) return;
     program_.timerTick(form, timer);
   }
 }

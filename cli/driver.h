@@ -59,8 +59,17 @@ class Driver {
   void expect(const Args& args);
   void dump(const Args& args);
 
+  // Counts forms unloaded, so that a command can tell whether the form it
+  // started on is still there (a new form may well get the old one's address).
+  struct UnloadCounter : Program::Listener {
+    long unloads = 0;
+    void formShown(Form&) override {}
+    void formUnloading(Form&) override { ++unloads; }
+  };
+
   std::ostream& out_;
   std::ostream& err_;
+  UnloadCounter unloadCounter_;
   HeadlessHost host_;
   Program program_;
   int line_ = 0;
