@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "boards/flatland/captions.h"
 #include "boards/flatland/layout.h"
 #include "boards/flatland/look.h"
 #include "frame/grid_switch.h"
@@ -121,6 +122,8 @@ void Form1large::addStatus() {
   Label33->BackColor = color::White;
   Label33->ForeColor = color::Blue;
   Label33->Alignment = AlignCenter;
+  Label12 = &text(placed(add("Label12", Kind::Label), lay::kMovesLeft), "");
+  Label18 = &text(placed(add("Label18", Kind::Label), lay::kLastMove), kLastMove);
 }
 
 // Blue's column on the left, Red's on the right: a heading, the points, and
@@ -156,9 +159,6 @@ void Form1large::addScores() {
   }
   // Blue moves first on a board just opened.
   Label4(0).Visible = false;
-
-  Label12 = &text(placed(add("Label12", Kind::Label), lay::kMovesLeft), "");
-  Label18 = &text(placed(add("Label18", Kind::Label), lay::kLastMove), "Last move: ");
 }
 
 void Form1large::addSizeLabels() {

@@ -7,7 +7,7 @@
 // colour of the status label `Label33` and the scores are the captions of
 // `Label5(0)` and `Label6`. The tables beside them are the board's own.
 //
-// The handlers live in four files: Form1large.cpp (the design and the load),
+// The handlers live in five files: Form1large.cpp (the design and the load),
 // Form1large_options.cpp (menus, sizes, worlds, New), Form1large_play.cpp
 // (clicks and typed moves), Form1large_scoring.cpp (judging and the end of a
 // game) and Form1large_computer.cpp (the computer's moves).
