@@ -231,14 +231,14 @@ void Driver::mousemove(const Args& args) {
 }
 
 // The whole text is replaced, as by selecting it and typing; the box's Change
-// event follows, as it does for every change of its text.
+// event follows when the text did change.
 void Driver::text(const Args& args) {
   args.atMost(2);
   Element& box = eventTarget(args, false);
   if (box.kind != Kind::TextBox) throw ScriptError(box.displayName() + " is not a text box");
   std::string value = args.token(1, "the text").text;
   Form& form = currentForm(program_);
-  if (!focusOn(form, box)) return;
+  if (!focusOn(form, box) || box.Text == value) return;
   box.Text = value;
   program_.userEvent(form, box, box.name + "_Change");
 }
