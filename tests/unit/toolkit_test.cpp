@@ -101,12 +101,21 @@ TEST_F(ProgramFixture, ElementsOutOfReachAreNotClicked) {
 }
 
 TEST_F(ProgramFixture, NavigationWaitsForTheHandlerToReturn) {
-  Form* before = &form();
+  // Records, at each unload, whether the leaving form's handler had run to its end.
+  struct Watch : Program::Listener {
+    std::vector<std::string> events;
+    void formShown(Form& f) override { events.push_back("shown " + f.name()); }
+    void formUnloading(Form& f) override {
+      bool finished = !static_cast<TestForm&>(f).clicks.empty();
+      events.push_back("unload " + f.name() + (finished ? " finished" : " mid-handler"));
+    }
+  } watch;
+  program.setListener(&watch);
   program.userEvent(form(), el("gmc"), "gmc_Click");
-  // The handler ran to its end on the old form, then the new one came up.
+  program.setListener(nullptr);
+  EXPECT_EQ(watch.events, (std::vector<std::string>{"unload first finished", "shown other"}));
   ASSERT_EQ(program.alive().size(), 1U);
   EXPECT_EQ(program.current()->name(), "other");
-  EXPECT_NE(program.current(), before);
 }
 
 TEST_F(ProgramFixture, ADialogStandsOverTheFormUntilUnloaded) {
