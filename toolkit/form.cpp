@@ -97,16 +97,23 @@ void Form::varTable(const std::string& name, std::pair<int, int> rows, std::pair
 }
 
 std::optional<std::string> Form::whyUnreachable(const Element& e) const {
-  if (!e.Visible) return e.displayName() + " is hidden";
-  if (!e.Enabled) return e.displayName() + " is disabled";
-  // A menu entry is reachable only through its menus; an element in a panel
-  // only while the panel shows.
-  const std::string& up = e.kind == Kind::MenuItem ? e.parent : e.container;
-  if (up.empty()) return std::nullopt;
-  auto it = elements_.find(up);
-  if (it == elements_.end()) return std::nullopt;
-  const Element& holder = (*it->second)[it->second->lo()];
-  if (auto why = whyUnreachable(holder)) return e.displayName() + " is inside " + *why;
+  // "is hidden", or "is inside Picture1, which is hidden" up the holders.
+  auto reason = [this](const Element& el, auto& self) -> std::optional<std::string> {
+    if (!el.Visible) return "is hidden";
+    if (!el.Enabled) return "is disabled";
+    // A menu entry is reachable only through its menus; an element in a panel
+    // only while the panel shows.
+    const std::string& up = el.kind == Kind::MenuItem ? el.parent : el.container;
+    if (up.empty()) return std::nullopt;
+    auto it = elements_.find(up);
+    if (it == elements_.end()) return std::nullopt;
+    const Element& holder = (*it->second)[it->second->lo()];
+    if (auto why = self(holder, self)) {
+      return "is inside " + holder.displayName() + ", which " + *why;
+    }
+    return std::nullopt;
+  };
+  if (auto why = reason(e, reason)) return e.displayName() + " " + *why;
   return std::nullopt;
 }
 
