@@ -135,6 +135,7 @@ title::title(Program& program) : Form(program, "title") {}
 void title::Form_Load() {
   Width = kWidth;
   Height = kHeight;
+  openAboveCentre = 300;
   BackColor = color::Black;
   Caption = shared().product_title;
   addSplash();
@@ -166,7 +167,8 @@ void title::addSplash() {
   }
   // Later elements are painted over earlier ones: the shadow is the first,
   // so that the title stands in front of it.
-  runner[0].ForeColor = color::Grey;
+  // A dim shadow: on black, a full grey competes with the title.
+  runner[0].ForeColor = 0x404040;
   runner[0].Left -= kShadowShift;
   runner[1].ForeColor = color::Yellow;
 

@@ -48,6 +48,9 @@ class Form {
   std::string Caption;
   int BackColor = color::ButtonFace;
   double Width = 9000, Height = 6000;
+  // How far above the middle of the screen the window opens centred, so that
+  // a tall form leaves room below it.
+  double openAboveCentre = 0;
   std::string focus;  // the element that has the keyboard focus, by display name
 
   // --- registry ---------------------------------------------------------

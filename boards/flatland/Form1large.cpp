@@ -66,6 +66,7 @@ void Form1large::Form_Load() {
   Caption = shared().product_title;
   Width = lay::kFormWidth;
   Height = lay::kFormHeight;
+  openAboveCentre = 300;
   BackColor = kBoardColour;
   addSidePanel();
   addBoard();

@@ -23,8 +23,6 @@ double variable(Form& form, const std::string& name, const std::vector<int>& ind
 
 TEST(Game, OnePlayerSuperVraskPlusPlayedToTheEnd) {
   WindowRun run(0);
-  if (!run.program.knowsForm("Form1large"))
-    GTEST_SKIP() << "the square board is not in the suite yet";
   run.program.open("Form1large");
   run.window().resize(1100, 820);
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&run.window()));

@@ -56,7 +56,12 @@ void FormWindow::placeOnScreen(FormWindow* over) {
   resize(client.width(), client.height() + menuHeight);
   QRect around = over != nullptr ? over->geometry() : room;
   QRect frame = frameGeometry();
-  frame.moveCenter(around.center());
+  QPoint centre = around.center();
+  if (over == nullptr)
+    centre.ry() -= static_cast<int>(form_->openAboveCentre / kTwipsPerPixel * fit);
+  frame.moveCenter(centre);
+  // Never above the top of the screen, where the title bar could not be reached.
+  frame.moveTop(std::max(frame.top(), room.top()));
   move(frame.topLeft());
 }
 
