@@ -1,20 +1,9 @@
 #include "frame/about_box.h"
 
+#include "frame/helpers.h"
 #include "toolkit/program.h"
 
 namespace vrask {
-
-namespace {
-
-Element& placed(Element& e, double left, double top, double width, double height) {
-  e.Left = left;
-  e.Top = top;
-  e.Width = width;
-  e.Height = height;
-  return e;
-}
-
-}  // namespace
 
 AboutBox::AboutBox(Program& program) : Form(program, "AboutBox") {}
 

@@ -39,6 +39,14 @@ std::string numberHead(const std::string& s) {
 
 }  // namespace
 
+Element& placed(Element& e, double left, double top, double width, double height) {
+  e.Left = left;
+  e.Top = top;
+  e.Width = width;
+  e.Height = height;
+  return e;
+}
+
 double Val(const std::string& text) {
   // Blanks count for nothing anywhere in the text: "1 2" reads as 12.
   std::string packed;

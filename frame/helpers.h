@@ -14,6 +14,9 @@ struct Place {
   double top = 0;
 };
 
+// Sets where `e` stands on its form, in twips, and hands it back.
+Element& placed(Element& e, double left, double top, double width, double height);
+
 // The number at the head of `text`: leading blanks skipped, then an optional
 // sign, digits, a decimal point and an exponent, up to the first character
 // that does not fit. 0 when there is no number ("12abc" is 12, "abc" is 0).

@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 
+#include "frame/helpers.h"
 #include "toolkit/program.h"
 
 namespace vrask {
@@ -110,14 +111,6 @@ void style(Element& label, Style style) {
       label.FontBold = true;
       break;
   }
-}
-
-Element& placed(Element& e, double left, double top, double width, double height) {
-  e.Left = left;
-  e.Top = top;
-  e.Width = width;
-  e.Height = height;
-  return e;
 }
 
 double columnLeft(int column) {
