@@ -130,7 +130,9 @@ void ElementPainter::paintLabel(const Element& e) {
   if (e.Caption.empty()) return;
   painter_.setFont(scaledFont(painter_.font(), e.FontSize, e.FontBold, scale_,
                               painter_.device()->logicalDpiY()));
-  painter_.setPen(toQColor(e.ForeColor, palette_));
+  // A disabled label reads greyed, whatever its colour, as people know it.
+  painter_.setPen(e.Enabled ? toQColor(e.ForeColor, palette_)
+                            : palette_.color(QPalette::Disabled, QPalette::WindowText));
   painter_.drawText(box, labelFlags(e.Alignment), QString::fromStdString(e.Caption));
 }
 
