@@ -131,7 +131,7 @@ const std::vector<std::string_view>& Element::stateProperties(Kind kind) {
 ElementArray::ElementArray(std::string name, Kind kind, int lo, int hi, bool indexed)
     : name_(std::move(name)), kind_(kind), lo_(lo), hi_(hi), indexed_(indexed) {
   if (hi < lo) throw std::invalid_argument("empty control array " + name_);
-  items_.resize(static_cast<size_t>(hi - lo + 1));
+  items_.resize(static_cast<size_t>(hi - lo) + 1);
   for (int i = lo; i <= hi; ++i) {
     Element& e = items_[static_cast<size_t>(i - lo)];
     e.name = name_;
