@@ -1,29 +1,15 @@
 #!/usr/bin/env python3
-"""Runs `vrask-cli bench --games 2` twice: every series must play its games
-through (exit 0, 26 games in all), and the signature and the moves of each
-series must be the same both times, since they change only with behaviour.
-The timings are not looked at."""
+"""`vrask-cli bench --games 2`, twice: every series plays its games through (26 in all),
+and the moves and signature, which change only with behaviour, are the same both times."""
 import subprocess
 import sys
 
-
-def run(cli):
-    done = subprocess.run([cli, "bench", "--games", "2"], capture_output=True, text=True,
-                          timeout=600)
-    if done.returncode != 0 or done.stderr:
-        sys.exit(f"bench failed ({done.returncode}):\n{done.stdout}{done.stderr}")
-    lines = done.stdout.splitlines()
-    if "games: 26" not in lines:
-        sys.exit(f"bench did not play 26 games:\n{done.stdout}")
-    return [l for l in lines if " games, " in l or l.startswith(("moves:", "signature:"))]
-
-
-def main():
-    first, second = run(sys.argv[1]), run(sys.argv[1])
-    if first != second:
-        sys.exit("bench differs between two runs:\n" + "\n".join(first) + "\n---\n" +
-                 "\n".join(second))
-
-
-if __name__ == "__main__":
-    main()
+runs = [subprocess.run([sys.argv[1], "bench", "--games", "2"], capture_output=True, text=True,
+                       timeout=600) for _ in range(2)]
+for run in runs:
+    if run.returncode != 0 or run.stderr or "games: 26" not in run.stdout.splitlines():
+        sys.exit(f"bench failed ({run.returncode}):\n{run.stdout}{run.stderr}")
+kept = [[l for l in run.stdout.splitlines() if " games, " in l or l.startswith(("moves:", "sig"))]
+        for run in runs]
+if kept[0] != kept[1]:
+    sys.exit("bench differs between two runs:\n" + "\n".join(kept[0] + ["---"] + kept[1]))

@@ -1,94 +1,72 @@
 #!/usr/bin/env python3
-"""Runs vrask-cli on the cases of a .cases file and checks the exit status,
-stdout and stderr of each exactly.
-
-A .cases file: free text up to the first case, then cases:
+"""Runs vrask-cli on each case of a .cases file; checks exit status, stdout and stderr exactly.
 
     === what the case shows
-    script lines (given to vrask-cli as a file)
-    --- args --help          run with these arguments; script lines go to stdin
-    --- exit 2               the exit status (0 when left out)
-    --- stdout               the exact output, up to the next marker
-    --- stderr               likewise (empty when left out)
-    --- stdout contains      each line that follows stands somewhere in stdout
+    script lines             given to vrask-cli as a file
+    --- args -               run with these arguments instead; script lines go to stdin
+    --- exit 1               the exit status (0 when left out)
+    --- stdout [contains]    the output up to the next marker (empty when left out); with
+    --- stderr [contains]    `contains`, lines that must each stand somewhere in it
+    !!! line | line => ERROR line N: reason      a script error: exit 2, nothing on stdout
 """
-import os
 import subprocess
 import sys
 import tempfile
 
 
+def new_case(name, script=(), exit=0, stderr=()):
+    return {"name": name, "script": list(script), "args": None, "exit": exit, "stdout": [],
+            "stderr": list(stderr), "contains": set()}
+
+
 def parse(path):
     cases, case, section = [], None, None
-    with open(path, encoding="utf-8") as f:
-        for raw in f:
-            line = raw.rstrip("\n")
-            if line.startswith("=== "):
-                case = {"name": line[4:], "script": [], "args": None, "exit": 0,
-                        "stdout": [], "stderr": [], "contains": set()}
-                cases.append(case)
-                section = "script"
-            elif case is None:
-                continue
-            elif line.startswith("--- "):
-                word, _, rest = line[4:].partition(" ")
-                if word == "args":
-                    case["args"] = rest.split()
-                elif word == "exit":
-                    case["exit"] = int(rest)
-                elif word in ("stdout", "stderr"):
-                    section = word
-                    if rest == "contains":
-                        case["contains"].add(word)
-                else:
-                    sys.exit(f"{path}: unknown marker {line!r}")
+    for line in open(path, encoding="utf-8").read().splitlines():
+        if line.startswith("!!! "):
+            script, _, error = line[4:].partition(" => ")
+            cases.append(new_case(line, [s.strip() for s in script.split("|")], 2, [error]))
+            case = None
+        elif line.startswith("=== "):
+            case, section = new_case(line[4:]), "script"
+            cases.append(case)
+        elif case is not None and line.startswith("--- "):
+            word, _, rest = line[4:].partition(" ")
+            if word == "args":
+                case["args"] = rest.split()
+            elif word == "exit":
+                case["exit"] = int(rest)
             else:
-                case[section].append(line)
+                section = word
+                case["contains"] |= {word} if rest == "contains" else set()
+        elif case is not None:
+            case[section].append(line)
     return cases
 
 
 def text(lines):
-    while lines and lines[-1] == "":
-        lines = lines[:-1]
-    return "".join(l + "\n" for l in lines)
-
-
-def run(cli, case, workdir):
-    script = text(case["script"])
-    if case["args"] is not None:
-        command, stdin = [cli] + case["args"], script
-    else:
-        path = os.path.join(workdir, "case.vrask")
-        with open(path, "w", encoding="utf-8") as f:
-            f.write(script)
-        command, stdin = [cli, path], ""
-    done = subprocess.run(command, input=stdin, capture_output=True, text=True,
-                          cwd=workdir, timeout=120)
-    return done.returncode, done.stdout, done.stderr
-
-
-def matches(case, label, got, want):
-    if label in case["contains"]:
-        return all(line in got for line in want.splitlines())
-    return got == want
+    return "\n".join(lines).rstrip("\n") + "\n" if any(lines) else ""
 
 
 def main():
-    cli, cases_file = os.path.abspath(sys.argv[1]), sys.argv[2]
-    failures = 0
+    cli, failures = sys.argv[1], 0
     with tempfile.TemporaryDirectory() as workdir:
-        for case in parse(cases_file):
-            status, out, err = run(cli, case, workdir)
-            checks = [("exit", status, case["exit"]),
-                      ("stdout", out, text(case["stdout"])),
-                      ("stderr", err, text(case["stderr"]))]
-            wrong = [c for c in checks if not matches(case, *c)]
-            if not wrong:
-                continue
-            failures += 1
-            print(f"FAILED: {case['name']}")
+        for case in parse(sys.argv[2]):
+            script, args = text(case["script"]), case["args"]
+            if args is None:
+                with open(f"{workdir}/case.vrask", "w", encoding="utf-8") as f:
+                    f.write(script)
+                args, script = [f"{workdir}/case.vrask"], ""
+            done = subprocess.run([cli] + args, input=script, capture_output=True, text=True,
+                                  cwd=workdir, timeout=120)
+            wrong = [(label, got, want) for label, got, want in
+                     [("exit", done.returncode, case["exit"]),
+                      ("stdout", done.stdout, text(case["stdout"])),
+                      ("stderr", done.stderr, text(case["stderr"]))]
+                     if not (all(l in got for l in want.splitlines())
+                             if label in case["contains"] else got == want)]
+            failures += bool(wrong)
             for label, got, want in wrong:
-                print(f"  {label}: expected\n{want!r}\n  got\n{got!r}")
+                print(f"FAILED: {case['name']}\n  {label}: expected\n{want!r}\n  got\n{got!r}")
     sys.exit(1 if failures else 0)
 
 

@@ -1,53 +1,55 @@
 // One run of the program in the real window, set up as `vrask` sets it up,
-// with the application's quit replaced by a flag and the helpers a test
-// needs to act as a person: click, hover, type, look.
+// with the application's quit replaced by a flag, and the few things a test
+// needs to click as a person would and to look at the result.
 #pragma once
 
-#include <functional>
 #include <string>
 
-#include <QColor>
+#include <QDir>
 #include <QImage>
-#include <QPoint>
-#include <QWidget>
+#include <QTest>
 
+#include "launcher/suite.h"
 #include "toolkit/program.h"
 #include "toolkit/qt/form_windows.h"
 #include "toolkit/qt/qt_host.h"
 
 namespace vrask::gui_test {
 
-class WindowRun {
- public:
+struct WindowRun {
   // `waitScale` shortens every wait of the forms (0: none).
-  explicit WindowRun(double waitScale = 0);
+  explicit WindowRun(double waitScale = 0) {
+    host.attach(&windows);
+    host.onEnd([this] { quit = true; });
+    host.setWaitScale(waitScale);
+    host.setMessageTitle(program.shared().product_title);
+    registerSuite(program);
+  }
 
   qt::QtHost host;
   Program program{host};
   qt::FormWindows windows{program};
   bool quit = false;  // the program asked the application to quit
 
-  Form& form();  // the current form
-  qt::FormWindow& window();
-  Element& element(const std::string& name, int index = -1);
+  Form& form() { return *program.current(); }
+  qt::FormWindow& window() { return *windows.currentWindow(); }
+  Element& element(const std::string& name, int index = -1) {
+    ElementArray& array = *form().findArray(name);
+    return array[index < 0 ? array.lo() : index];
+  }
+  QWidget* control(const std::string& name) { return window().controls().widgetOf(name); }
+  QPoint centreOf(const Element& e) { return window().canvas().centreOf(e); }
 
   // A person's mouse on the current form's canvas, at the middle of `e`.
-  void click(const Element& e);
-  void click(const std::string& name, int index = -1) { click(element(name, index)); }
-  void hover(const Element& e);
-  QPoint centreOf(const Element& e);
-  // The control (button, text box, list box) of the current form.
-  QWidget* control(const std::string& displayName);
+  void click(const std::string& name, int index = -1) {
+    QTest::mouseClick(&window().canvas(), Qt::LeftButton, {}, centreOf(element(name, index)));
+  }
 
-  QImage canvasImage();
-  // Saves `widget` as build/gui-screenshots/NAME.png.
-  void screenshot(QWidget& widget, const std::string& name);
-
-  // Runs the event loop until `done` or `milliseconds` have passed.
-  static bool waitFor(const std::function<bool()>& done, int milliseconds);
+  // Saves `widget` as <build>/gui-screenshots/NAME.png.
+  static void screenshot(QWidget& widget, const std::string& name) {
+    QDir().mkpath(VRASK_SCREENSHOT_DIR);
+    widget.grab().save(QString(VRASK_SCREENSHOT_DIR "/") + QString::fromStdString(name) + ".png");
+  }
 };
-
-// The colour of an element record, as the window paints it.
-QColor colourOf(int value);
 
 }  // namespace vrask::gui_test
