@@ -1,7 +1,5 @@
-// The front page in the real window: it opens centred a little above the
-// screen's middle, the splash gives way to the labels on its own timer, a
-// label lights up under the mouse and a click launches the board, whose menu
-// and about box then open over it.
+// The front page in the real window, from the splash on its own timer to the
+// square board it launches, with that board's menu and about box.
 #include <QMenu>
 #include <QScreen>
 
