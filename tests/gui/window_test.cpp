@@ -1,7 +1,6 @@
 // The window on a small sketch form: scaling, where clicks land, what a wait
 // lets through, and navigation and the end leaving nothing half done.
 #include <algorithm>
-#include <tuple>
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -9,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "frame/helpers.h"
 #include "tests/gui/harness.h"
 
 namespace vrask::gui_test {
@@ -16,11 +16,6 @@ namespace vrask::gui_test {
 namespace {
 
 std::string formAfterGoTo;  // the current form as the navigating handler saw it
-
-Element& placed(Element& e, double left, double top, double width, double height) {
-  std::tie(e.Left, e.Top, e.Width, e.Height) = std::tuple(left, top, width, height);
-  return e;
-}
 
 struct Sketch : Form {
   explicit Sketch(Program& program) : Form(program, "Sketch") {}
