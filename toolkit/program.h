@@ -69,7 +69,6 @@ class Program {
   // refused, as in a window that lets nothing through.
   void setInPlainWait(bool on) { inPlainWait_ = on; }
   bool inPlainWait() const { return inPlainWait_; }
-  bool handlerRunning() const { return depth_ > 0; }
 
   void end();
   bool ended() const { return ended_; }

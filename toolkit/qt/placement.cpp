@@ -69,7 +69,6 @@ ViewScale::ViewScale(QSizeF designTwips, QSizeF widgetPixels) {
   QSizeF shownSize = designTwips * factor_;
   offset_ = QPointF((widgetPixels.width() - shownSize.width()) / 2,
                     (widgetPixels.height() - shownSize.height()) / 2);
-  designRect_ = QRectF(offset_, shownSize);
 }
 
 QRectF ViewScale::toPixels(const QRectF& twips) const {

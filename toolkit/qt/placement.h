@@ -63,13 +63,10 @@ class ViewScale {
   QPointF toTwips(QPointF pixels) const {
     return factor_ > 0 ? (pixels - offset_) / factor_ : QPointF(-1, -1);
   }
-  // The design's rectangle in the window.
-  QRectF designRect() const { return designRect_; }
 
  private:
   double factor_ = 0;
   QPointF offset_;
-  QRectF designRect_;
 };
 
 }  // namespace vrask::qt
