@@ -16,8 +16,8 @@ int main(int argc, char* argv[]) {
   vrask::Program program(host);
   vrask::qt::FormWindows windows(program);
   host.attach(&windows);
-  host.setMessageTitle(program.shared().product_title);
   vrask::registerSuite(program);
+  host.setMessageTitle(program.shared().text(vrask::shared::kProductTitle));
 
   program.open("title");
   if (program.ended()) return 0;

@@ -22,27 +22,9 @@ namespace vrask::cli {
 
 namespace {
 
-constexpr const char* kBoard = "Form1large";
-// A game on the largest board has 180 lines; far more clicks than that means
-// the game no longer ends, and the bench says so instead of running on.
+// The largest board has 180 lines; far more clicks than that means the game
+// no longer ends, and the bench says so instead of running on.
 constexpr int kMaxMovesPerGame = 2000;
-
-struct Series {
-  bool bubbleland;
-  int size;
-  int mode;
-};
-
-// Every game mode the square board offers, at the smallest and largest size
-// of Flatland and in Bubbleland (9 only). Ribbon Vrask (5) is offered only on
-// the 9 by 9 Flatland board.
-std::vector<Series> allSeries() {
-  std::vector<Series> series;
-  for (int mode : {0, 2, 3, 4}) series.push_back({false, 5, mode});
-  for (int mode : {0, 2, 3, 4, 5}) series.push_back({false, 9, mode});
-  for (int mode : {0, 2, 3, 4}) series.push_back({true, 9, mode});
-  return series;
-}
 
 // Blue's own dice (splitmix64), apart from the program's Rnd so that Blue's
 // choices do not shift the computer's.
@@ -90,30 +72,20 @@ class BenchError : public std::runtime_error {
 // One series: a fresh program with the board set up, then its games.
 class SeriesRun {
  public:
-  SeriesRun(const Series& series, std::uint64_t seed) : program_(host_), dice_(seed) {
+  SeriesRun(const PlayDescriptor& play, const Setup& setup, std::uint64_t seed)
+      : play_(play), program_(host_), dice_(seed) {
     registerSuite(program_);
-    if (!program_.knowsForm(kBoard)) throw BenchError(std::string("no form ") + kBoard);
-    program_.open(kBoard);
-    if (series.bubbleland) choose("ver", 2);
-    choose("sizsq", series.size);
-    choose("game", series.mode);
-    choose("ip", 0);
-    mode_ = series.mode;
-  }
-
-  std::string name() {
-    Element& entry = findElement(form(), {"game", {mode_}});
-    std::string world = readNumber("ver", 1, "Checked") != 0 ? "Flatland" : "Bubbleland";
-    return world + " " + std::to_string(boardSize()) + " " + entry.Caption;
+    program_.open(play.form);
+    for (const Choice& choice : setup.clicks) click(choice);
   }
 
   // Plays one game to its end; with `fresh` false, "New" deals it first.
-  void play(bool fresh, Totals& totals) {
-    if (!fresh) choose("gmc", -1);
+  void play(bool fresh, const std::string& name, Totals& totals) {
+    if (!fresh) click(play_.newGame);
     int moves = 0;
-    while (variable("gameover", {}) == 0) {
-      if (++moves > kMaxMovesPerGame) throw BenchError("a game of " + name() + " did not end");
-      Element& target = blueMove();
+    while (!play_.finished(form())) {
+      if (++moves > kMaxMovesPerGame) throw BenchError("a game of " + name + " did not end");
+      Element& target = blueMove(name);
       auto begin = std::chrono::steady_clock::now();
       Program::Result result = program_.userEvent(form(), target, target.name + "_Click");
       auto end = std::chrono::steady_clock::now();
@@ -131,49 +103,33 @@ class SeriesRun {
  private:
   Form& form() { return currentForm(program_); }
 
-  void choose(const std::string& name, int index) {
-    Reference ref{name, {}};
-    if (index >= 0) ref.indexes.push_back(index);
-    Element& entry = findElement(form(), ref);
-    Program::Result result = program_.userEvent(form(), entry, name + "_Click");
+  void click(const Choice& choice) {
+    Element& e = elementOf(form(), choice);
+    Program::Result result = program_.userEvent(form(), e, choice.element + "_Click");
     if (result.outcome != Program::Outcome::Done) {
-      throw BenchError("could not choose " + entry.displayName() + ": " + result.why);
+      throw BenchError("could not choose " + e.displayName() + ": " + result.why);
     }
   }
 
-  double variable(const std::string& name, std::vector<int> at) {
-    Value v = readVariable(form(), {name, std::move(at)});
-    const double* d = std::get_if<double>(&v);
-    if (d == nullptr) throw BenchError("variable " + name + " is not a number");
-    return *d;
-  }
-
-  double readNumber(const std::string& name, int index, const std::string& property) {
-    Value v = readProperty(findElement(form(), {name, {index}}), property);
-    if (const bool* b = std::get_if<bool>(&v)) return *b ? 1 : 0;
-    return std::get<double>(v);
-  }
-
-  int boardSize() { return static_cast<int>(variable("boardsize", {})); }
-
-  // A visible free line in the line game, a visible open circle in the Vrask
-  // games: Blue's random choice among the moves a person could make.
-  Element& blueMove() {
-    bool lineGame = mode_ == 0;
-    ElementArray& targets = findArray(form(), lineGame ? "Label1" : "Label2");
+  // Blue's random choice among the moves a person could make: a target of the
+  // kind the game plays that shows and is free.
+  Element& blueMove(const std::string& name) {
+    size_t kind = play_.kindInPlay(form());
+    ElementArray& targets = findArray(form(), play_.kinds.at(kind).targets);
     std::vector<Element*> free;
     for (Element& target : targets) {
-      double taken = variable(lineGame ? "lineown" : "sqdone", {target.index});
-      if (taken == 0 && !form().whyUnreachable(target)) free.push_back(&target);
+      if (!play_.taken(form(), kind, target.index) && !form().whyUnreachable(target)) {
+        free.push_back(&target);
+      }
     }
-    if (free.empty()) throw BenchError("Blue has no move in a game of " + name() + " not over");
+    if (free.empty()) throw BenchError("Blue has no move in a game of " + name + " not over");
     return *free[dice_.below(free.size())];
   }
 
+  const PlayDescriptor& play_;
   HeadlessHost host_;
   Program program_;
   BlueDice dice_;
-  int mode_ = 0;
 };
 
 double percentile(std::vector<double> values, double p) {
@@ -206,16 +162,23 @@ void report(const Totals& totals, std::ostream& out) {
 
 }  // namespace
 
-int bench(int games, std::ostream& out, std::ostream& err) {
+int bench(int games, const std::string& board, std::ostream& out, std::ostream& err) {
   Totals totals;
   try {
-    std::vector<Series> series = allSeries();
-    for (size_t i = 0; i < series.size(); ++i) {
-      SeriesRun run(series[i], 0x5EED0000ULL + i);
-      long movesBefore = totals.moves;
-      for (int g = 0; g < games; ++g) run.play(g == 0, totals);
-      out << std::left << std::setw(36) << run.name() << std::right << games << " games, "
-          << totals.moves - movesBefore << " moves\n";
+    if (!board.empty() && findBoard(board) == nullptr) throw BenchError("no board " + board);
+    for (const Board& each : boards()) {
+      const PlayDescriptor& play = each.play;
+      if (!board.empty() && play.form != board) continue;
+      // Each board's series are seeded by their place among its own, so a
+      // board's games stay the same when other boards join the bench.
+      for (size_t i = 0; i < play.bench.size(); ++i) {
+        const Setup& setup = play.bench[i];
+        SeriesRun run(play, setup, 0x5EED0000ULL + i);
+        long movesBefore = totals.moves;
+        for (int g = 0; g < games; ++g) run.play(g == 0, setup.name, totals);
+        out << std::left << std::setw(36) << setup.name << std::right << games << " games, "
+            << totals.moves - movesBefore << " moves\n";
+      }
     }
   } catch (const std::exception& e) {
     err << "bench: " << e.what() << '\n';

@@ -209,13 +209,11 @@ void Driver::shared(const Args& args) {
   args.atMost(2);
   const std::string& name = args.word(0, "a shared value's name");
   int value = parseInteger(args.word(1, "a value"));
-  if (name == "bubbleland_start") {
-    program_.shared().bubbleland_start = value;
-  } else if (name == "wall_level") {
-    program_.shared().wall_level = value;
-  } else {
+  // The title is the program's own; a script sets only the numbers.
+  if (!program_.shared().has(name) || name == shared::kProductTitle) {
     throw ScriptError("unknown shared value " + name + " (bubbleland_start or wall_level)");
   }
+  program_.shared().set(name, num(value));
 }
 
 void Driver::click(const Args& args) {

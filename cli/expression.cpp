@@ -10,11 +10,9 @@ namespace vrask::cli {
 
 namespace {
 
-Value readShared(const SharedState& shared, const std::string& name) {
-  if (name == "bubbleland_start") return num(shared.bubbleland_start);
-  if (name == "wall_level") return num(shared.wall_level);
-  if (name == "product_title") return Value{shared.product_title};
-  throw ScriptError("unknown shared value " + name);
+Value readShared(const SharedValues& shared, const std::string& name) {
+  if (!shared.has(name)) throw ScriptError("unknown shared value " + name);
+  return shared.get(name);
 }
 
 Value lastMessage(const HeadlessHost& host, bool title) {

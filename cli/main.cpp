@@ -12,7 +12,9 @@ namespace {
 
 constexpr const char* kUsage = R"(Usage:
   vrask-cli [SCRIPT]           run a script of user actions (from stdin without SCRIPT or with -)
-  vrask-cli bench [--games N]  play N games of each series headless and report speed (N: 2)
+  vrask-cli bench [--games N] [--board FORM]
+                               play N games of each series of every board (or of FORM alone)
+                               headless and report speed (N: 2)
   vrask-cli --help             this text
 
 Script: one command a line; # starts a comment.
@@ -51,8 +53,14 @@ int usageError(const std::string& what) {
 
 int runBench(int argc, char** argv) {
   int games = 2;
+  std::string board;
   for (int i = 2; i < argc; ++i) {
-    if (std::strcmp(argv[i], "--games") != 0 || i + 1 >= argc) {
+    bool hasValue = i + 1 < argc;
+    if (std::strcmp(argv[i], "--board") == 0 && hasValue) {
+      board = argv[++i];
+      continue;
+    }
+    if (std::strcmp(argv[i], "--games") != 0 || !hasValue) {
       return usageError(std::string("unknown bench option ") + argv[i]);
     }
     try {
@@ -62,7 +70,7 @@ int runBench(int argc, char** argv) {
     }
     if (games < 1) return usageError("--games needs a whole number from 1");
   }
-  return vrask::cli::bench(games, std::cout, std::cerr);
+  return vrask::cli::bench(games, board, std::cout, std::cerr);
 }
 
 }  // namespace

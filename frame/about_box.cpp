@@ -1,6 +1,7 @@
 #include "frame/about_box.h"
 
 #include "frame/helpers.h"
+#include "launcher/shared_state.h"
 #include "toolkit/program.h"
 
 namespace vrask {
@@ -8,7 +9,7 @@ namespace vrask {
 AboutBox::AboutBox(Program& program) : Form(program, "AboutBox") {}
 
 void AboutBox::Form_Load() {
-  Caption = "About " + shared().product_title;
+  Caption = "About " + shared().text(shared::kProductTitle);
   Width = 7200;
   Height = 4560;
 
@@ -17,7 +18,7 @@ void AboutBox::Form_Load() {
   starField_ = std::make_unique<StarField>(stars);
 
   Element& title = placed(add("Label1", Kind::Label), 240, 3000, 6720, 420);
-  title.Caption = shared().product_title;
+  title.Caption = shared().text(shared::kProductTitle);
   title.FontSize = 14;
   title.FontBold = true;
   title.Alignment = AlignCenter;

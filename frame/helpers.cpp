@@ -47,6 +47,26 @@ Element& placed(Element& e, double left, double top, double width, double height
   return e;
 }
 
+Element& placed(Element& e, const Rect& r) {
+  return placed(e, r.left, r.top, r.width, r.height);
+}
+
+Element& placedLine(Element& e, const Segment& s) {
+  e.X1 = s.x1;
+  e.Y1 = s.y1;
+  e.X2 = s.x2;
+  e.Y2 = s.y2;
+  return e;
+}
+
+Element& captioned(Element& e, const std::string& caption, double fontSize, bool bold) {
+  e.Caption = caption;
+  e.FontSize = fontSize;
+  e.FontBold = bold;
+  e.BackStyle = 0;
+  return e;
+}
+
 double Val(const std::string& text) {
   // Blanks count for nothing anywhere in the text: "1 2" reads as 12.
   std::string packed;

@@ -14,8 +14,28 @@ struct Place {
   double top = 0;
 };
 
+// Where an element stands on its form, in twips: its box...
+struct Rect {
+  double left = 0, top = 0, width = 0, height = 0;
+};
+// ... or, for a drawn line, its two ends.
+struct Segment {
+  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+};
+
 // Sets where `e` stands on its form, in twips, and hands it back.
 Element& placed(Element& e, double left, double top, double width, double height);
+Element& placed(Element& e, const Rect& r);
+// Sets the ends of the drawn line `e`, and hands it back.
+Element& placedLine(Element& e, const Segment& s);
+
+// A label that shows `caption` on the form's background, in the form's font
+// at `fontSize` points.
+Element& captioned(Element& e, const std::string& caption, double fontSize = 10, bool bold = false);
+
+// How long the computer shows its move in yellow before it is played, and
+// how long a flash of scored cells stays, in seconds.
+inline constexpr double kComputerPause = 0.5;
 
 // The number at the head of `text`: leading blanks skipped, then an optional
 // sign, digits, a decimal point and an exponent, up to the first character

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "launcher/shared_state.h"
 #include "toolkit/form.h"
 #include "toolkit/program.h"
 
@@ -41,7 +42,7 @@ const Group kFourD{12,
 
 bool isThisBoard(Form& form, const Entry& entry) {
   if (form.name() != entry.target) return false;
-  return entry.wallLevel == 0 || entry.wallLevel == form.shared().wall_level;
+  return entry.wallLevel == 0 || entry.wallLevel == form.shared().number(shared::kWallLevel);
 }
 
 void addGroup(Form& form, const std::string& name, const Group& group) {
@@ -58,7 +59,7 @@ void addGroup(Form& form, const std::string& name, const Group& group) {
   form.handleIndexed(name + "_Click", [&form, group](int index) {
     for (const Entry& entry : group.entries) {
       if (entry.index != index) continue;
-      if (entry.wallLevel != 0) form.shared().wall_level = entry.wallLevel;
+      if (entry.wallLevel != 0) form.shared().set(shared::kWallLevel, num(entry.wallLevel));
       form.goTo(entry.target);
     }
   });

@@ -1,27 +1,42 @@
 #include "launcher/suite.h"
 
 #include "boards/flatland/Form1large.h"
+#include "boards/flatland/play.h"
 #include "frame/about_box.h"
 #include "launcher/title.h"
-#include "toolkit/program.h"
 
 namespace vrask {
 
 namespace {
 
 template <typename F>
-void registerAs(Program& program, const char* name) {
-  program.registerForm(name, [](Program& p) { return std::make_unique<F>(p); });
+Program::Factory factory() {
+  return [](Program& p) { return std::make_unique<F>(p); };
 }
 
 }  // namespace
 
+// One line a board. A launcher label or "Other Games" entry of a board not
+// listed here shows "Not yet available".
+const std::vector<Board>& boards() {
+  static const std::vector<Board> list{
+      {factory<Form1large>(), flatland::play()},
+  };
+  return list;
+}
+
+const Board* findBoard(const std::string& form) {
+  for (const Board& board : boards()) {
+    if (board.play.form == form) return &board;
+  }
+  return nullptr;
+}
+
 void registerSuite(Program& program) {
-  registerAs<title>(program, "title");
-  registerAs<AboutBox>(program, "AboutBox");
-  registerAs<Form1large>(program, "Form1large");
-  // Each board is registered here once its form is built; a launcher label or
-  // "Other Games" entry of a board not registered shows "Not yet available".
+  shared::defineSharedValues(program.shared());
+  program.registerForm("title", factory<title>());
+  program.registerForm("AboutBox", factory<AboutBox>());
+  for (const Board& board : boards()) program.registerForm(board.play.form, board.factory);
 }
 
 }  // namespace vrask

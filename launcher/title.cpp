@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "frame/helpers.h"
+#include "launcher/shared_state.h"
 #include "toolkit/program.h"
 
 namespace vrask {
@@ -130,7 +131,7 @@ void title::Form_Load() {
   Height = kHeight;
   openAboveCentre = 300;
   BackColor = color::Black;
-  Caption = shared().product_title;
+  Caption = shared().text(shared::kProductTitle);
   addSplash();
   addFrontPage();
 }
@@ -150,7 +151,7 @@ void title::addSplash() {
   ElementArray& runner = addArray("Runner", Kind::Label, 0, 1);
   for (Element& label : runner) {
     placed(label, 1200, 300, 12500, 900);
-    label.Caption = shared().product_title;
+    label.Caption = shared().text(shared::kProductTitle);
     label.BackStyle = 0;
     label.FontSize = 36;
     label.FontBold = true;
@@ -268,8 +269,8 @@ void title::addLaunchLabels() {
 void title::Label11_Click(int i) {
   std::optional<Launch> launch = launchOf(i);
   if (!launch) return;
-  if (launch->bubbleland != 0) shared().bubbleland_start = launch->bubbleland;
-  if (launch->wallLevel != 0) shared().wall_level = launch->wallLevel;
+  if (launch->bubbleland != 0) shared().set(shared::kBubblelandStart, num(launch->bubbleland));
+  if (launch->wallLevel != 0) shared().set(shared::kWallLevel, num(launch->wallLevel));
   goTo(launch->target);
 }
 

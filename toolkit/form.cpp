@@ -120,7 +120,7 @@ std::optional<std::string> Form::whyUnreachable(const Element& e) const {
 Host& Form::host() {
   return program_.host();
 }
-SharedState& Form::shared() {
+SharedValues& Form::shared() {
   return program_.shared();
 }
 

@@ -17,7 +17,7 @@ namespace vrask {
 
 class Host;
 class Program;
-struct SharedState;
+class SharedValues;
 
 // Key codes a handler sees.
 namespace key {
@@ -90,7 +90,7 @@ class Form {
   // --- services, through the host ---------------------------------------
   Program& program() { return program_; }
   Host& host();
-  SharedState& shared();
+  SharedValues& shared();
   void MsgBox(const std::string& text, const std::string& title = "");
   void wait(double seconds) { pause(seconds, false); }
   void waitWithEvents(double seconds) { pause(seconds, true); }

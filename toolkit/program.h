@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "launcher/shared_state.h"
 #include "toolkit/form.h"
 #include "toolkit/host.h"
+#include "toolkit/shared_values.h"
 
 namespace vrask {
 
@@ -74,7 +74,7 @@ class Program {
   bool ended() const { return ended_; }
 
   Host& host() { return host_; }
-  SharedState& shared() { return shared_; }
+  SharedValues& shared() { return shared_; }
 
  private:
   struct Depth;
@@ -83,7 +83,7 @@ class Program {
   void unloadAll();
 
   Host& host_;
-  SharedState shared_;
+  SharedValues shared_;
   Listener* listener_ = nullptr;
   std::map<std::string, Factory> factories_;
   std::vector<std::unique_ptr<Form>> stack_;

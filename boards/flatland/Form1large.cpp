@@ -11,6 +11,7 @@
 #include "frame/round_list.h"
 #include "frame/session_menu.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 #include "launcher/shared_state.h"
 
 namespace vrask {
@@ -34,22 +35,6 @@ constexpr std::array<const char*, 6> kGameCaptions{
 constexpr std::array<const char*, 4> kPlayerCaptions{"1 player verus the computer", "2 Players",
                                                      "3 Players", "2 Players versus the computer"};
 
-Element& placed(Element& e, const lay::Rect& r) {
-  e.Left = r.left;
-  e.Top = r.top;
-  e.Width = r.width;
-  e.Height = r.height;
-  return e;
-}
-
-Element& text(Element& e, const std::string& caption, double fontSize = 10, bool bold = false) {
-  e.Caption = caption;
-  e.FontSize = fontSize;
-  e.FontBold = bold;
-  e.BackStyle = 0;
-  return e;
-}
-
 std::string sizeCaption(int n) {
   return std::to_string(n) + " x " + std::to_string(n);
 }
@@ -63,7 +48,7 @@ Form1large::~Form1large() = default;
 // The design first, in paint order, then the load in its own order. Where
 // the window stands on the screen is the window's business.
 void Form1large::Form_Load() {
-  Caption = shared().product_title;
+  Caption = shared().text(shared::kProductTitle);
   Width = lay::kFormWidth;
   Height = lay::kFormHeight;
   openAboveCentre = 300;
@@ -76,6 +61,8 @@ void Form1large::Form_Load() {
   addWorkingElements();
   addMenus();
   roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.place = lay::kRoundList});
+  flow_ = std::make_unique<TurnFlow>(*this, *roundList_, *keypad_,
+                                     TurnFlowNames{.gameMenus = {"opts", "kda", "sks", "ks"}});
   registerHandlers();
   registerVariables();
 
@@ -87,6 +74,7 @@ void Form1large::Form_Load() {
   clearCircles();
   for (Element& target : *Label2_) target.Visible = false;
   sqline = start();
+  board_ = cellBoard(sqline);
   applyBubblelandStart();
   game_Click(SuperVraskPlus);
   sd_->choose(1);
@@ -100,12 +88,8 @@ void Form1large::addBoard() {
   std::array<int, kLines + 1> design = designColours();
   ln1_ = &addArray("ln1", Kind::Line, 1, kLines);
   for (Element& line : *ln1_) {
-    lay::Segment s = lay::lineAt(line.index);
-    line.X1 = s.x1;
-    line.Y1 = s.y1;
-    line.X2 = s.x2;
-    line.Y2 = s.y2;
-    line.BorderColor = design.at(static_cast<size_t>(line.index));
+    placedLine(line, lay::lineAt(line.index)).BorderColor =
+        design.at(static_cast<size_t>(line.index));
   }
   Shape1_ = &addArray("Shape1", Kind::Shape, 1, kSquares);
   for (Element& circle : *Shape1_) placed(circle, lay::circleAt(circle.index)).FillStyle = 0;
@@ -116,15 +100,15 @@ void Form1large::addBoard() {
 }
 
 void Form1large::addStatus() {
-  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 11, true);
-  Label33 = &text(placed(add("Label33", Kind::Label), lay::kStatus), "", 11, true);
+  Label36 = &captioned(placed(add("Label36", Kind::Label), lay::kGameName), "", 11, true);
+  Label33 = &captioned(placed(add("Label33", Kind::Label), lay::kStatus), "", 11, true);
   // Its colour is the mover's, Black included, so it stands on white.
   Label33->BackStyle = 1;
   Label33->BackColor = color::White;
   Label33->ForeColor = color::Blue;
   Label33->Alignment = AlignCenter;
-  Label12 = &text(placed(add("Label12", Kind::Label), lay::kMovesLeft), "");
-  Label18 = &text(placed(add("Label18", Kind::Label), lay::kLastMove), kLastMove);
+  Label12 = &captioned(placed(add("Label12", Kind::Label), lay::kMovesLeft), "");
+  Label18 = &captioned(placed(add("Label18", Kind::Label), lay::kLastMove), kLastMove);
 }
 
 // Blue's column on the left, Red's on the right: a heading, the points, and
@@ -147,11 +131,11 @@ void Form1large::addScores() {
       {{headings[0], Label5(0), Label4(1), "Blue", color::Blue, lay::kColumnLeft},
        {headings[1], *Label6, Label4(0), "Red", color::Red, lay::kRedScoreLeft}}};
   for (Side& side : sides) {
-    placed(text(side.heading, side.name, 10, true),
+    placed(captioned(side.heading, side.name, 10, true),
            {side.left, lay::kScoreHeadingTop, lay::kScoreWidth, lay::kLineHeight});
-    placed(text(side.points, "0", 28, true),
+    placed(captioned(side.points, "0", 28, true),
            {side.left, lay::kScoreTop, lay::kScoreWidth, lay::kScoreHeight});
-    placed(text(side.yourTurn, "Your turn", 10, true),
+    placed(captioned(side.yourTurn, "Your turn", 10, true),
            {side.left, lay::kYourTurnTop, lay::kScoreWidth, lay::kLineHeight});
     for (Element* e : {&side.heading, &side.points, &side.yourTurn}) {
       e->ForeColor = side.colour;
@@ -163,11 +147,11 @@ void Form1large::addScores() {
 }
 
 void Form1large::addSizeLabels() {
-  Label14 = &text(placed(add("Label14", Kind::Label), lay::kSizeHeading), "Board size");
+  Label14 = &captioned(placed(add("Label14", Kind::Label), lay::kSizeHeading), "Board size");
   Label13_ = &addArray("Label13", Kind::Label, kSmallestSize, kSide);
   for (Element& label : *Label13_) {
     double left = lay::kColumnLeft + lay::kSizeStep * (label.index - kSmallestSize);
-    placed(text(label, sizeCaption(label.index)),
+    placed(captioned(label, sizeCaption(label.index)),
            {left, lay::kSizeTop, lay::kSizeWidth, lay::kSizeHeight});
     label.BackStyle = 1;
     label.Alignment = AlignCenter;
@@ -181,14 +165,14 @@ void Form1large::addSizeLabels() {
   for (Element& label : *Label15_) {
     int row = label.index / 2;
     int column = label.index % 2;
-    placed(text(label, column == 0 ? "GAME" : "OVER", 24, true),
+    placed(captioned(label, column == 0 ? "GAME" : "OVER", 24, true),
            {lay::kColumnLeft + column * (lay::kColumnWidth - lay::kGameOverWidth),
             lay::kGameOverTop + row * lay::kGameOverRow, lay::kGameOverWidth, lay::kGameOverRow});
     label.ForeColor = color::Red;
     label.Alignment = AlignCenter;
     label.Visible = false;
   }
-  text(placed(add("Label16", Kind::Label), lay::kTimeHeading), "Time for a move");
+  captioned(placed(add("Label16", Kind::Label), lay::kTimeHeading), "Time for a move");
 }
 
 // `Label8` and `List1` are the board's working elements: the player never
@@ -327,7 +311,7 @@ void Form1large::clearCircles() {
 }
 
 void Form1large::applyBubblelandStart() {
-  if (shared().bubbleland_start != 1) return;
+  if (shared().number(shared::kBubblelandStart) != 1) return;
   ver(1).Checked = false;
   ver(2).Checked = true;
   game(Ribbon).Enabled = false;

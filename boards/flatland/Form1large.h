@@ -20,6 +20,7 @@
 
 #include "boards/flatland/computer.h"
 #include "boards/flatland/tables.h"
+#include "frame/turn_flow.h"
 #include "toolkit/form.h"
 
 namespace vrask {
@@ -29,6 +30,7 @@ class Keypad;
 class OtherGames;
 class RoundList;
 class SuddenDeath;
+class TurnFlow;
 
 class Form1large : public Form {
  public:
@@ -66,7 +68,6 @@ class Form1large : public Form {
   void resetBoard();
   void hideBeyondSize(int n);
   void showOnBoard(ElementArray& targets, const std::vector<int>& hidden);
-  void setMenusEnabled(bool on);
   void showSizeLabels(bool on);
   int checkedSize() const;
   int checkedGame() const;
@@ -94,8 +95,7 @@ class Form1large : public Form {
   OpenCircles countOpenCircles();
   void playVraskMove(int lastopen);
   void judgeVraskSquares();
-  void claimSquare(int s, int colour, Element& score);
-  void zeroScores();
+  void claimSquare(int s, Side side);
   void endOfGame();
 
   // --- the computer (Form1large_computer.cpp) --------------------------------
@@ -147,6 +147,7 @@ class Form1large : public Form {
   std::unique_ptr<Keypad> keypad_;
   std::unique_ptr<OtherGames> otherGames_;
   std::unique_ptr<RoundList> roundList_;
+  std::unique_ptr<TurnFlow> flow_;
 
   // --- the game -------------------------------------------------------------
   int gamemode = flatland::SuperVraskPlus;
@@ -160,11 +161,12 @@ class Form1large : public Form {
   int compbusy = 0;     // 1 while the computer takes a line
   int gameover = 0;
   flatland::SideTable sqline{};
+  CellBoard board_;  // sqline as cells and their sides
   flatland::LineOwners lineown{};
   flatland::SideOwners sqowner{};
   flatland::SquareCounts sqdone{};
   flatland::SquareCounts sqscored{};
-  flatland::SquareCounts sidecount{};
+  Counts sidecount = Counts(flatland::kSquares + 1, 0);
   std::array<int, flatland::kLines + 1> linecolor0{};
   std::vector<int> candlist;
 };

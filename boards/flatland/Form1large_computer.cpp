@@ -4,17 +4,13 @@
 #include "boards/flatland/Form1large.h"
 #include "boards/flatland/captions.h"
 #include "boards/flatland/look.h"
+#include "frame/helpers.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
 using namespace flatland;
-
-namespace {
-
-constexpr double kPause = 0.5;
-
-}  // namespace
 
 // A line game: complete the lowest square with three sides and judge again,
 // so the square counts for Red and the computer goes again; with nothing to
@@ -22,7 +18,7 @@ constexpr double kPause = 0.5;
 void Form1large::computerLineMove() {
   compbusy = 1;
   sidecount = countOwnedSides(sqowner);
-  candlist = squaresToComplete(sidecount);
+  candlist = board_.cellsToComplete(sidecount);
   turnflag = 0;
   if (!candlist.empty()) {
     int s = candlist.front();
@@ -34,13 +30,12 @@ void Form1large::computerLineMove() {
     return;
   }
 
-  candlist = lineCandidates(sqline, sidecount, lineown, [this](int L) { return lineShows(L); });
-  takeLine(candlist.at(static_cast<size_t>(pick(static_cast<int>(candlist.size())) - 1)));
+  candlist = board_.safeLines(
+      sidecount, [this](int L) { return lineown.at(static_cast<size_t>(L)) == 0 && lineShows(L); });
+  takeLine(flow_->pickFrom(candlist));
   // No square had three sides, so this line scores nothing: Blue is next.
-  Label4(0).Visible = false;
-  Label4(1).Visible = true;
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = "No score    Blue's turn.";
+  flow_->showTurn(Side::Blue);
+  flow_->say("No score    Blue's turn.", color::Blue);
   compbusy = 0;
   if (!sd_->noLimit()) sd_->restart();
 }
@@ -49,12 +44,11 @@ void Form1large::computerLineMove() {
 // through, and `compbusy` keeps the clicks among them out.
 void Form1large::takeLine(int L) {
   if (bubbleland()) bbland(L);
-  ln1(L).BorderWidth = kMarked;
+  ln1(L).BorderWidth = kMarkedWidth;
   ln1(L).BorderColor = color::Yellow;
-  Refresh();
-  waitWithEvents(kPause);
+  flow_->computerPause();
   ln1(L).BorderColor = color::Red;
-  Label18->Caption = kLastMove + std::to_string(L);
+  flow_->showLastMove(L);
   lineown.at(L) = 1;
   ownSides(L, moverid);
 }
@@ -62,15 +56,14 @@ void Form1large::takeLine(int L) {
 // A Vrask game: the choice is worked out on every judging, and played only
 // when it is Red's turn. It never looks at colours.
 void Form1large::computerVraskTurn() {
-  sidecount = countMarkedSides(sqline, [this](int L) { return ln1(L).BorderWidth == kMarked; });
+  sidecount = board_.countSides([this](int L) { return ln1(L).BorderWidth == kMarkedWidth; });
   auto shows = [this](int s) { return squareShows(s); };
-  int s = vraskTarget(sidecount, sqdone, shows);
+  int s = board_.vraskTarget(sidecount, sqdone, shows);
   if (s == 0) {
-    candlist = openSquares(sqdone, shows);
-    size_t drawn = static_cast<size_t>(pick(static_cast<int>(candlist.size())));
-    s = drawn <= candlist.size() ? candlist.at(drawn - 1) : 0;
+    candlist = board_.openCells(sqdone, shows);
+    s = flow_->pickFrom(candlist);
   }
-  if (Label33->ForeColor == color::Red && s != 0) compmove(s);
+  if (flow_->moverColour() == color::Red && s != 0) compmove(s);
 }
 
 // A Vrask move by the program, in the colour of the status label: Red's
@@ -79,10 +72,10 @@ void Form1large::compmove(int s) {
   if (sqdone.at(s) == 1) return;
   sqdone.at(s) = 1;
   Refresh();
-  wait(kPause);
+  wait(kComputerPause);
   Shape1(s).BorderColor = color::Green;
-  Label18->Caption = kLastMove + std::to_string(s);
-  paintPattern(s, Label33->ForeColor);
+  flow_->showLastMove(s);
+  paintPattern(s, flow_->moverColour());
   chackmoves();
 }
 

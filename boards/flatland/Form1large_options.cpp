@@ -8,6 +8,7 @@
 #include "frame/keypad.h"
 #include "frame/other_games.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 #include "launcher/shared_state.h"
 
 namespace vrask {
@@ -106,12 +107,12 @@ void Form1large::ver_Click() {
     ver(2).Checked = true;
     game(Ribbon).Enabled = false;
     if (game(Ribbon).Checked) game_Click(Ombrel);
-    shared().bubbleland_start = 0;
+    shared().set(shared::kBubblelandStart, num(0));
   } else {
     ver(2).Checked = false;
     game(Ribbon).Enabled = true;
     ver(1).Checked = true;
-    shared().bubbleland_start = kTrue;
+    shared().set(shared::kBubblelandStart, num(kTrue));
   }
 }
 
@@ -133,18 +134,11 @@ void Form1large::shgrid_Click(bool on) {
 void Form1large::gmc_Click() {
   if (compbusy == 1 && gameover == 0) return;
   compbusy = 0;
-  Label18->Caption = kLastMove;
-  for (Element& label : *Label15_) label.Visible = false;
-  if (keypad_->on()) {
-    keypad_->text().Text.clear();
-    keypad_->panel().Visible = true;
-    keypad_->focusText();
-  }
+  flow_->startNewGame();
   gameover = 0;
-  setDefaultButton(*this, keypad_->enterButton());
   bool twoPlayers = ip(1).Checked;
 
-  setMenusEnabled(true);
+  flow_->setGameMenusEnabled(true);
   sd_->fullBar();
   showSizeLabels(true);
   sd_->stop();
@@ -174,13 +168,11 @@ void Form1large::resetBoard() {
   sqowner = {};
   sqscored = {};
   sqdone = {};
-  Label5(0).Caption = "0";
-  Label6->Caption = "0";
+  flow_->zeroScores();
   List1->Clear();
 
   turnflag = starterflag;
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = kClickALine;
+  flow_->say(kClickALine, color::Blue);
   Label12->Caption = movesLeft(kLines);
   if (isVraskMode(gamemode)) {
     Label33->Caption = kClickACircle;
@@ -197,10 +189,6 @@ void Form1large::resetBoard() {
     line.BorderColor = linecolor0.at(static_cast<size_t>(line.index));
   }
   sizsq_Click(checkedSize());
-}
-
-void Form1large::setMenusEnabled(bool on) {
-  for (Element* menu : {&otherGames_->menu(), kda, sks, ks}) menu->Enabled = on;
 }
 
 // The sizes can be changed only before the first move; their heading goes

@@ -1,12 +1,11 @@
 // The moves of a person: a line clicked, a circle clicked, a number typed.
-#include <cmath>
-
 #include "boards/flatland/Form1large.h"
 #include "boards/flatland/captions.h"
 #include "boards/flatland/look.h"
 #include "frame/helpers.h"
 #include "frame/keypad.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -26,15 +25,14 @@ void Form1large::Label1_Click(int L) {
     MsgBox("Invalid move!");
     return;
   }
-  Label18->Caption = kLastMove + std::to_string(L);
+  flow_->showLastMove(L);
   showSizeLabels(false);
-  ln1(L).BorderWidth = kMarked;
+  ln1(L).BorderWidth = kMarkedWidth;
 
   bool redMoves = turnflag == 1;
   turnflag = redMoves ? 0 : 1;
   int colour = redMoves ? color::Red : color::Blue;
-  Label4(0).Visible = !redMoves;
-  Label4(1).Visible = redMoves;
+  flow_->showTurn(redMoves ? Side::Blue : Side::Red);
   moverid = redMoves ? kRedId : kBlueId;
 
   ln1(L).BorderColor = colour;
@@ -51,7 +49,7 @@ void Form1large::Label1_Click(int L) {
 void Form1large::bbland(int L) {
   int twin = twinOf(L);
   if (twin == 0) return;
-  ln1(twin).BorderWidth = kMarked;
+  ln1(twin).BorderWidth = kMarkedWidth;
   ln1(twin).BorderColor = turnflag == 1 ? color::Blue : color::Red;
   lineown.at(twin) = kRedId;
   ownSides(twin, kRedId);
@@ -74,17 +72,14 @@ void Form1large::Label2_Click(int s) {
     return;
   }
   sqdone.at(s) = 1;
-  Label18->Caption = kLastMove + std::to_string(s);
+  flow_->showLastMove(s);
   Shape1(s).BorderColor = color::Green;
-  paintPattern(s, Label33->ForeColor);
+  paintPattern(s, flow_->moverColour());
   chackmoves();
 }
 
 void Form1large::paintPattern(int s, int colour) {
-  for (int line : vraskPattern(sqline, gamemode, s, bubbleland())) {
-    ln1(line).BorderWidth = kMarked;
-    ln1(line).BorderColor = colour;
-  }
+  markLines(*ln1_, vraskPattern(sqline, gamemode, s, bubbleland()), colour);
 }
 
 // The keypad's "enter": the number typed plays like a click on that line or
@@ -92,26 +87,22 @@ void Form1large::paintPattern(int s, int colour) {
 // not there is dropped without a word.
 void Form1large::Command6_Click() {
   if (compbusy == 1) return;
-  Element& box = keypad_->text();
-  double n = Val(box.Text);
-  box.Text.clear();
-  bool whole = std::floor(n) == n;
-  if (gamemode == Ombrel) {
-    if (whole && n >= 1 && n <= kLines && Label1(static_cast<int>(n)).Visible) {
-      Label1_Click(static_cast<int>(n));
-    }
-  } else if (whole && n >= 1 && n <= kSquares && Label2(static_cast<int>(n)).Visible) {
-    Label2_Click(static_cast<int>(n));
+  bool lineGame = gamemode == Ombrel;
+  std::optional<int> n = flow_->typedTarget(lineGame ? *Label1_ : *Label2_);
+  if (!n) return;
+  if (lineGame) {
+    Label1_Click(*n);
+  } else {
+    Label2_Click(*n);
   }
 }
 
 // In a Vrask game the turn passes after every move, scoring or not.
 void Form1large::passVraskTurn() {
-  bool blueNext = Label33->ForeColor != color::Blue;
-  Label33->ForeColor = blueNext ? color::Blue : color::Red;
-  Label33->Caption = blueNext ? "Blue player's turn" : "Red player's turn";
-  Label4(1).Visible = blueNext;
-  Label4(0).Visible = !blueNext;
+  bool blueNext = flow_->moverColour() != color::Blue;
+  flow_->say(blueNext ? "Blue player's turn" : "Red player's turn",
+             blueNext ? color::Blue : color::Red);
+  flow_->showTurn(blueNext ? Side::Blue : Side::Red);
   Refresh();
 }
 

@@ -6,8 +6,8 @@
 #include "boards/flatland/look.h"
 #include "frame/helpers.h"
 #include "frame/keypad.h"
-#include "frame/round_list.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -15,12 +15,7 @@ using namespace flatland;
 
 namespace {
 
-constexpr double kPause = 0.5;
 constexpr double kFlashGap = 0.25;
-
-void addPoints(Element& score, int points) {
-  score.Caption = std::to_string(static_cast<int>(Val(score.Caption)) + points);
-}
 
 }  // namespace
 
@@ -28,12 +23,12 @@ void addPoints(Element& score, int points) {
 
 void Form1large::checkwins() {
   showSizeLabels(false);
-  setMenusEnabled(false);
+  flow_->setGameMenusEnabled(false);
   sd_->stop();
 
   std::vector<int> newly = newlyScored();
   if (!newly.empty()) {
-    addPoints(turnflag == 1 ? Label5(0) : *Label6, static_cast<int>(newly.size()));
+    flow_->addPoints(turnflag == 1 ? Side::Blue : Side::Red, static_cast<int>(newly.size()));
     Label8->Caption.clear();
   }
   settleLineTurn(static_cast<int>(newly.size()));
@@ -56,7 +51,7 @@ void Form1large::checkwins() {
 std::vector<int> Form1large::newlyScored() {
   sidecount = countOwnedSides(sqowner, gamemode == Dorvel ? moverid : 0);
   // The label turns orange for Red in a line game; the circle is Red then.
-  int fill = Label33->ForeColor == kOrange ? color::Red : Label33->ForeColor;
+  int fill = flow_->moverColour() == kOrange ? color::Red : flow_->moverColour();
   std::vector<int> newly;
   for (int s = 1; s <= kSquares; ++s) {
     if (sidecount.at(s) != 4 || sqscored.at(s) != 0) continue;
@@ -73,38 +68,25 @@ void Form1large::settleLineTurn(int newly) {
   const char* mover = blueMoved ? "Blue" : "Red";
   const char* other = blueMoved ? "Red" : "Blue";
   if (newly == 0) {
-    Label33->Caption = std::string("No score    ") + other + "'s turn.";
-    Label33->ForeColor = blueMoved ? kOrange : color::Blue;
+    flow_->say(std::string("No score    ") + other + "'s turn.", blueMoved ? kOrange : color::Blue);
     return;
   }
   std::string doubleScore = "  Double score!      Two cool!";
   if (gamemode == Dorvel) {
-    Label33->Caption =
-        newly >= 2 ? doubleScore : std::string(" Score!      ") + other + "'s turn now.";
-    Label33->ForeColor = blueMoved ? color::Red : color::Blue;
+    flow_->say(newly >= 2 ? doubleScore : std::string(" Score!      ") + other + "'s turn now.",
+               blueMoved ? color::Red : color::Blue);
     return;
   }
   turnflag = blueMoved ? 0 : 1;
-  Label33->Caption =
-      newly >= 2 ? doubleScore : std::string(" Score!      ") + mover + " goes again.";
-  Label4(0).Visible = !blueMoved;
-  Label4(1).Visible = blueMoved;
+  flow_->say(newly >= 2 ? doubleScore : std::string(" Score!      ") + mover + " goes again.",
+             flow_->moverColour());
+  flow_->showTurn(blueMoved ? Side::Blue : Side::Red);
 }
 
 // Each new square shows its four lines in yellow for a moment.
 void Form1large::flash(const std::vector<int>& squares) {
   for (int s : squares) {
-    std::array<int, 5> colours{};
-    for (int k = Top; k <= Left; ++k) {
-      Element& line = ln1(sqline.at(s).at(k));
-      colours.at(k) = line.BorderColor;
-      line.BorderColor = color::Yellow;
-    }
-    Refresh();
-    wait(kPause);
-    for (int k = Top; k <= Left; ++k) ln1(sqline.at(s).at(k)).BorderColor = colours.at(k);
-    Refresh();
-    wait(kFlashGap);
+    flow_->flash(*ln1_, board_.sides(s), kFlashGap);
     sqscored.at(s) = 1;
   }
 }
@@ -116,12 +98,12 @@ void Form1large::flash(const std::vector<int>& squares) {
 // program itself in Black.
 void Form1large::chackmoves() {
   if (gameover == 1) return;
-  zeroScores();
+  flow_->zeroScores();
   showSizeLabels(false);
-  if (Label33->Caption != kVraskMove) passVraskTurn();
-  setMenusEnabled(false);
+  if (flow_->status() != kVraskMove) passVraskTurn();
+  flow_->setGameMenusEnabled(false);
   sd_->stop();
-  zeroScores();
+  flow_->zeroScores();
 
   OpenCircles circles = countOpenCircles();
   if (circles.open > 1) Label12->Caption = movesLeft(circles.open);
@@ -157,11 +139,10 @@ Form1large::OpenCircles Form1large::countOpenCircles() {
 // colour, and that settles the game.
 void Form1large::playVraskMove(int lastopen) {
   Refresh();
-  wait(kPause);
-  Label33->Caption = kVraskMove;
-  Label33->ForeColor = color::Black;
+  wait(kComputerPause);
+  flow_->say(kVraskMove, color::Black);
   compmove(lastopen);
-  zeroScores();
+  flow_->zeroScores();
   Refresh();
 }
 
@@ -171,32 +152,27 @@ void Form1large::judgeVraskSquares() {
     int red = 0;
     for (int k = Top; k <= Left; ++k) {
       const Element& line = ln1(sqline.at(s).at(k));
-      if (line.BorderWidth != kMarked) continue;
+      if (line.BorderWidth != kMarkedWidth) continue;
       blue += line.BorderColor == color::Blue ? 1 : 0;
       red += line.BorderColor == color::Red ? 1 : 0;
     }
     Shape1(s).FillColor = color::Grey;
-    if (blue == 4) claimSquare(s, color::Blue, Label5(0));
-    if (red == 4) claimSquare(s, color::Red, *Label6);
+    if (blue == 4) claimSquare(s, Side::Blue);
+    if (red == 4) claimSquare(s, Side::Red);
   }
 }
 
 // A square whole in one colour scores for that side now; the first time, its
 // circle is closed for good, even if it loses the colour later.
-void Form1large::claimSquare(int s, int colour, Element& score) {
+void Form1large::claimSquare(int s, Side side) {
   if (!squareShows(s)) return;
-  addPoints(score, 1);
-  Shape1(s).FillColor = colour;
+  flow_->addPoints(side, 1);
+  Shape1(s).FillColor = side == Side::Blue ? color::Blue : color::Red;
   Label2(s).Visible = false;
   if (sqdone.at(s) == 0) {
     sqdone.at(s) = 1;
     Shape1(s).BorderColor = kPurple;
   }
-}
-
-void Form1large::zeroScores() {
-  Label5(0).Caption = "0";
-  Label6->Caption = "0";
 }
 
 // --- the end of a game ---------------------------------------------------------
@@ -205,14 +181,8 @@ void Form1large::zeroScores() {
 // menus stay closed until New.
 void Form1large::endOfGame() {
   if (gameover == 1) return;
-  int blue = static_cast<int>(Val(Label5(0).Caption));
-  int red = static_cast<int>(Val(Label6->Caption));
   gameover = 1;
-  roundList_->recordGame(blue, red);
-  for (Element& label : *Label15_) label.Visible = true;
-  setDefaultButton(*this, *Command1);
-  SetFocus(*Command1);
-  keypad_->panel().Visible = false;
+  flow_->endGame();
 }
 
 }  // namespace vrask

@@ -7,13 +7,6 @@
 
 namespace vrask::flatland::layout {
 
-struct Rect {
-  double left = 0, top = 0, width = 0, height = 0;
-};
-struct Segment {
-  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
-};
-
 inline constexpr double kCell = 960;       // a square's side
 inline constexpr double kBoardTop = 720;   // the top edge of the board
 inline constexpr double kCircle = 495;     // a circle's box

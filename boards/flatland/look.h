@@ -1,11 +1,7 @@
-// How the square board marks its state: the width of a taken line and the
-// board's own colours, besides Blue, Red, Black, yellow and grey.
+// The square board's own colours, besides Blue, Red, Black, yellow and grey.
 #pragma once
 
 namespace vrask::flatland {
-
-// A taken line is drawn 8 wide, a free one 1.
-inline constexpr int kMarked = 8;
 
 // The turn label in a line game when Red is next.
 inline constexpr int kOrange = 16576;

@@ -226,4 +226,12 @@ std::array<int, kLines + 1> designColours() {
   return colours;
 }
 
+CellBoard cellBoard(const SideTable& sqline) {
+  std::vector<std::vector<int>> sides(kSquares + 1);
+  for (int s = 1; s <= kSquares; ++s) {
+    for (int k = Top; k <= Left; ++k) sides.at(s).push_back(sqline.at(s).at(k));
+  }
+  return {std::move(sides), kLines};
+}
+
 }  // namespace vrask::flatland

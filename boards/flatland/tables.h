@@ -7,6 +7,8 @@
 #include <array>
 #include <vector>
 
+#include "frame/cell_board.h"
+
 namespace vrask::flatland {
 
 inline constexpr int kSide = 9;  // squares a side of the full board
@@ -43,6 +45,8 @@ using SideTable = std::array<std::array<int, 5>, kSquares + 1>;
 // band: the left edge, the inner columns of lines, the right edge, then the
 // top edge, the inner rows and the bottom edge.
 SideTable start();
+// The same table as cells and their sides, for the rules every board shares.
+CellBoard cellBoard(const SideTable& sqline);
 
 // The line of the opposite edge that stands for the same line of the joined
 // surface in Bubbleland, or 0 for a line that is not on the edge.

@@ -1,15 +1,31 @@
 #!/usr/bin/env python3
-"""`vrask-cli bench --games 2`, twice: every series plays its games through (26 in all),
-and the moves and signature, which change only with behaviour, are the same both times."""
+"""`vrask-cli bench --games 2`, twice: every series of every board plays its games
+through, and the moves and signature, which change only with behaviour, are the same
+both times. The square board's series alone keep the signature they had before the
+other boards joined the bench."""
+import re
 import subprocess
 import sys
 
-runs = [subprocess.run([sys.argv[1], "bench", "--games", "2"], capture_output=True, text=True,
-                       timeout=600) for _ in range(2)]
-for run in runs:
-    if run.returncode != 0 or run.stderr or "games: 26" not in run.stdout.splitlines():
-        sys.exit(f"bench failed ({run.returncode}):\n{run.stdout}{run.stderr}")
-kept = [[l for l in run.stdout.splitlines() if " games, " in l or l.startswith(("moves:", "sig"))]
-        for run in runs]
-if kept[0] != kept[1]:
-    sys.exit("bench differs between two runs:\n" + "\n".join(kept[0] + ["---"] + kept[1]))
+SQUARE_BOARD_SIGNATURE = "53ef38217cb513f0"
+
+
+def bench(*args):
+    run = subprocess.run([sys.argv[1], "bench", "--games", "2", *args], capture_output=True,
+                         text=True, timeout=900)
+    series = [l for l in run.stdout.splitlines() if " games, " in l]
+    if run.returncode != 0 or run.stderr or f"games: {2 * len(series)}" not in run.stdout:
+        sys.exit(f"bench {' '.join(args)} failed ({run.returncode}):\n{run.stdout}{run.stderr}")
+    return series + [l for l in run.stdout.splitlines() if l.startswith(("moves:", "sig"))]
+
+
+runs = [bench(), bench()]
+if runs[0] != runs[1]:
+    sys.exit("bench differs between two runs:\n" + "\n".join(runs[0] + ["---"] + runs[1]))
+square = bench("--board", "Form1large")
+if f"signature: {SQUARE_BOARD_SIGNATURE}" not in square:
+    sys.exit("the square board's games changed:\n" + "\n".join(square))
+bad = subprocess.run([sys.argv[1], "bench", "--board", "nosuchboard"], capture_output=True,
+                     text=True, timeout=60)
+if bad.returncode != 1 or not re.search(r"no board nosuchboard", bad.stderr):
+    sys.exit(f"an unknown board is not refused: {bad.returncode} {bad.stderr}")

@@ -22,8 +22,8 @@ struct WindowRun {
     host.attach(&windows);
     host.onEnd([this] { quit = true; });
     host.setWaitScale(waitScale);
-    host.setMessageTitle(program.shared().product_title);
     registerSuite(program);
+    host.setMessageTitle(program.shared().text(shared::kProductTitle));
   }
 
   qt::QtHost host;

@@ -36,7 +36,7 @@ TEST(Launcher, FrontPageComesAfterTheSplashAndALabelLaunchesTheSquareBoard) {
   run.click("Label11", 6);
   ASSERT_EQ(run.form().name(), "Form1large");
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&run.window()));
-  EXPECT_EQ(run.program.shared().bubbleland_start, 0);
+  EXPECT_EQ(run.program.shared().number(shared::kBubblelandStart), 0);
   QTest::qWait(200);
   run.screenshot(run.window(), "board-after-launch");
 

@@ -58,7 +58,7 @@ TEST_F(FrameFixture, OtherGamesOffersOnlyBuiltBoardsAndCarriesOnlyTheWallLevel) 
   EXPECT_EQ(event("fcbm", 13), Program::Outcome::Ignored);
   event("zcbm", 9);
   ASSERT_EQ(board().name(), "vraskthewall");
-  EXPECT_EQ(program.shared().wall_level, 2);
+  EXPECT_EQ(program.shared().number(shared::kWallLevel), 2);
   EXPECT_EQ(el("zcbm", 9).Caption, "3D - Vrask a Bigger Wall  (THIS VERSION!)");
   EXPECT_EQ(el("zcbm", 8).Caption, "3D - Vrask the Wall");
   EXPECT_EQ(el("cbm", 3).Caption, "2D - Super Vrask Plus in Flatland and Bubbleland");

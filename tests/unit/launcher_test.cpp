@@ -44,11 +44,12 @@ TEST_F(LauncherFixture, EachQuickLaunchOpensItsBoardAloneWithItsSharedValues) {
                                 "vraskthewall", "Quennel", "form5d", "form5d2"};
   const int kBubbleland[] = {0, 1, 0, 0, 0, 0, 0, 0, 0}, kWall[] = {1, 1, 1, 1, 2, 3, 1, 1, 1};
   for (size_t i = 0; i < std::size(kLabel); ++i) {
-    program.shared() = SharedState{};
+    program.shared().restart();
     start({"Triang", "zorvex", "vraskthewall", "Quennel", "form5d", "form5d2"});
     event("Label11_Click", label(kLabel[i]));
     EXPECT_EQ(std::tuple(program.current()->name(), program.alive().size(),
-                         program.shared().bubbleland_start, program.shared().wall_level),
+                         program.shared().number(shared::kBubblelandStart),
+                         program.shared().number(shared::kWallLevel)),
               std::tuple(kBoard[i], size_t{1}, kBubbleland[i], kWall[i]))
         << "Label11(" << kLabel[i] << ")";
   }
