@@ -125,14 +125,8 @@ void Form1large::chackmoves() {
 // The open circles on the board (those beyond a smaller board are never
 // played) and the highest-numbered of them.
 Form1large::OpenCircles Form1large::countOpenCircles() {
-  OpenCircles circles{0, 0};
-  for (int s = 1; s <= kSquares; ++s) {
-    if (sqdone.at(s) != 0) continue;
-    ++circles.open;
-    if (squareShows(s)) circles.lastopen = s;
-  }
-  circles.open -= kSquares - boardsize * boardsize;
-  return circles;
+  std::vector<int> open = board_.openCells(sqdone, [this](int s) { return squareShows(s); });
+  return {static_cast<int>(open.size()), open.empty() ? 0 : open.back()};
 }
 
 // Nobody may play the last circle: the program plays it in Black, nobody's
