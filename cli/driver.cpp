@@ -11,6 +11,16 @@
 
 namespace vrask::cli {
 
+namespace {
+
+// `text` without its first word `word` and the blanks after it.
+std::string afterFirstWord(const std::string& text, const std::string& word) {
+  size_t from = text.find_first_not_of(" \t", word.size());
+  return from == std::string::npos ? "" : text.substr(from);
+}
+
+}  // namespace
+
 // The words of a command line after the command.
 class Driver::Args {
  public:
@@ -32,11 +42,7 @@ class Driver::Args {
     if (size() > n) throw ScriptError("unexpected argument: " + line_.tokens[n + 1].text);
   }
   // The text after the command word, as written.
-  std::string rest() const {
-    const std::string& command = line_.tokens.front().text;
-    size_t from = line_.text.find_first_not_of(" \t", command.size());
-    return from == std::string::npos ? "" : line_.text.substr(from);
-  }
+  std::string rest() const { return afterFirstWord(line_.text, line_.tokens.front().text); }
   const ScriptLine& line() const { return line_; }
 
  private:
@@ -63,10 +69,19 @@ bool isDigitKey(int code) {
 }
 
 // The commands a `during-wait` may hold: what a person can do while the
-// program waits.
+// program waits, and looking at the screen meanwhile.
 bool canBeHeld(const std::string& command) {
   return command == "click" || command == "dblclick" || command == "mousemove" ||
-         command == "text" || command == "key" || command == "tick";
+         command == "text" || command == "key" || command == "select" || command == "tick" ||
+         command == "expect" || command == "dump";
+}
+
+bool looksAtScreen(const std::string& command) {
+  return command == "expect" || command == "dump";
+}
+
+bool startsLikeNumber(const std::string& word) {
+  return !word.empty() && word.find_first_of("0123456789+-") == 0;
 }
 
 }  // namespace
@@ -83,10 +98,11 @@ int Driver::run(std::istream& script) {
       ++line_;
       runLine(readLine(text));
     }
-    // A held line at the end of the script meets no wait at all.
-    if (held_) {
-      line_ = held_->number;
-      ignored("the script ended before any wait let events through");
+    // Held lines at the end of the script meet no wait at all.
+    for (const Held& held : held_) {
+      line_ = held.number;
+      ignored(held.looks ? "the script ended before any wait"
+                         : "the script ended before any wait let events through");
     }
   } catch (const ScriptError& e) {
     err_ << "ERROR line " << line_ << ": " << e.what() << '\n';
@@ -104,22 +120,24 @@ void Driver::runLine(const ScriptLine& line) {
   if (program_.ended() && command.text != "expect" && command.text != "dump") {
     throw ScriptError("the program has ended: only expect and dump may follow");
   }
-  std::optional<Held> held = std::move(held_);
-  held_.reset();
-  if (held) host_.setPump([this, &held] { deliver(*held); });
+  if (command.text == "during-wait" && !command.quoted) {
+    execute(line);
+    return;
+  }
+  std::vector<Held> held = std::move(held_);
+  held_.clear();
+  size_t next = 0;
+  if (!held.empty()) {
+    host_.setWaitHook([this, &held, &next](bool pumping) { atWait(held, next, pumping); });
+  }
   try {
     execute(line);
   } catch (...) {
-    host_.setPump(nullptr);
+    host_.setWaitHook(nullptr);
     throw;
   }
-  host_.setPump(nullptr);
-  if (!held) return;
-  int current = line_;
-  line_ = held->number;
-  if (held->error) throw ScriptError(*held->error);
-  if (!held->delivered) ignored("line " + std::to_string(current) + " let no events through");
-  line_ = current;
+  host_.setWaitHook(nullptr);
+  reportHeld(held, line_);
 }
 
 void Driver::execute(const ScriptLine& line) {
@@ -131,6 +149,7 @@ void Driver::execute(const ScriptLine& line) {
                                                        {"mousemove", &Driver::mousemove},
                                                        {"text", &Driver::text},
                                                        {"key", &Driver::key},
+                                                       {"select", &Driver::select},
                                                        {"tick", &Driver::tick},
                                                        {"rnd", &Driver::rnd},
                                                        {"during-wait", &Driver::duringWait},
@@ -144,12 +163,24 @@ void Driver::execute(const ScriptLine& line) {
   (this->*(it->second))(Args(line));
 }
 
-// The host calls this inside the next wait that lets events through; the
-// held line is delivered once, and a mistake in it is kept until the wait is
-// over, so that it never unwinds through the form's own code.
+// Held lines go in the order written, each at a wait of its own: the next
+// one counts the fitting waits after the wait of the one before it. Waits
+// inside a held line's own command belong to that line, not to the command
+// the lines were held for.
+void Driver::atWait(std::vector<Held>& held, size_t& next, bool pumping) {
+  if (delivering_ || next >= held.size()) return;
+  Held& first = held[next];
+  if (!pumping && !first.looks) return;
+  if (++first.waitsSeen < first.nth) return;
+  ++next;
+  deliver(first);
+}
+
+// A mistake in a held line is kept until the wait is over, so that it never
+// unwinds through the form's own code.
 void Driver::deliver(Held& held) {
-  if (held.delivered) return;
   held.delivered = true;
+  delivering_ = true;
   int outer = line_;
   line_ = held.number;
   try {
@@ -158,6 +189,36 @@ void Driver::deliver(Held& held) {
     held.error = e.what();
   }
   line_ = outer;
+  delivering_ = false;
+}
+
+void Driver::reportHeld(const std::vector<Held>& held, int command) {
+  for (size_t i = 0; i < held.size(); ++i) {
+    const Held& h = held[i];
+    line_ = h.number;
+    if (h.error) throw ScriptError(*h.error);
+    if (!h.delivered) ignored(whyNotDelivered(held, i, command));
+  }
+  line_ = command;
+}
+
+std::string Driver::whyNotDelivered(const std::vector<Held>& held, size_t i, int command) {
+  if (i > 0 && !held[i - 1].delivered) {
+    return "held behind line " + std::to_string(held[i - 1].number) + ", which was not delivered";
+  }
+  const Held& h = held[i];
+  std::string why = "line " + std::to_string(command);
+  if (h.looks) {
+    why += h.waitsSeen == 0   ? " reached no wait"
+           : h.waitsSeen == 1 ? " reached only one wait"
+                              : " reached only " + std::to_string(h.waitsSeen) + " waits";
+  } else {
+    why += h.waitsSeen == 0   ? " let no events through"
+           : h.waitsSeen == 1 ? " let events through only once"
+                              : " let events through only " + std::to_string(h.waitsSeen) + " times";
+  }
+  if (i > 0) why += " after line " + std::to_string(held[i - 1].number) + "'s";
+  return why;
 }
 
 void Driver::ignored(const std::string& why) {
@@ -263,6 +324,16 @@ void Driver::key(const Args& args) {
   program_.userEvent(form, target, target.name + "_Change");
 }
 
+void Driver::select(const Args& args) {
+  args.atMost(2);
+  Element& list = eventTarget(args, false);
+  if (list.kind != Kind::ListBox) throw ScriptError(list.displayName() + " is not a list box");
+  int row = parseInteger(args.word(1, "a row"));
+  Program::Result result =
+      program_.rowEvent(currentForm(program_), list, row, list.name + "_Click");
+  if (result.outcome == Program::Outcome::Ignored) ignored(result.why);
+}
+
 void Driver::tick(const Args& args) {
   args.atMost(2);
   Form& form = currentForm(program_);
@@ -294,27 +365,47 @@ void Driver::rnd(const Args& args) {
   for (double v : values) host_.random().pin(v);
 }
 
+// `during-wait [K] COMMAND`. An expectation is checked for its form here
+// already, so that a mistake in it shows even when no wait comes.
 void Driver::duringWait(const Args& args) {
-  const std::string& command = args.word(0, "a command to hold");
-  if (!canBeHeld(command)) {
-    throw ScriptError(
-        "during-wait holds a click, dblclick, mousemove, text, key or tick line, not " + command);
-  }
   Held held;
   held.number = line_;
-  held.line.tokens.assign(args.line().tokens.begin() + 1, args.line().tokens.end());
-  held.line.text = args.rest();
-  held_ = std::move(held);
+  const std::string& first = args.word(0, "a command to hold");
+  size_t at = 0;
+  std::string text = args.rest();
+  if (startsLikeNumber(first)) {
+    held.nth = parseInteger(first);
+    if (held.nth < 1) throw ScriptError("bad number: " + first + ", the waits count from 1");
+    text = afterFirstWord(text, first);
+    at = 1;
+  }
+  const std::string& command = args.word(at, "a command to hold");
+  if (!canBeHeld(command)) {
+    throw ScriptError(
+        "during-wait holds a click, dblclick, mousemove, text, key, select, tick, expect or dump "
+        "line, not " +
+        command);
+  }
+  held.looks = looksAtScreen(command);
+  held.line.tokens.assign(args.line().tokens.begin() + 1 + static_cast<long>(at),
+                          args.line().tokens.end());
+  held.line.text = text;
+  if (command == "expect") readExpectation(Args(held.line));
+  held_.push_back(std::move(held));
+}
+
+Driver::Expectation Driver::readExpectation(const Args& args) {
+  args.atMost(3);
+  Expectation e{args.word(0, "what to check"), args.word(1, "an operator"),
+                parseLiteral(args.token(2, "a value to compare with"))};
+  checkOperator(e.op, e.expected);
+  return e;
 }
 
 void Driver::expect(const Args& args) {
-  args.atMost(3);
-  const std::string& lhs = args.word(0, "what to check");
-  const std::string& op = args.word(1, "an operator");
-  Value expected = parseLiteral(args.token(2, "a value to compare with"));
-  checkOperator(op, expected);
-  Value actual = evaluate(program_, host_, lhs);
-  if (compare(actual, op, expected)) return;
+  Expectation e = readExpectation(args);
+  Value actual = evaluate(program_, host_, e.lhs);
+  if (compare(actual, e.op, e.expected)) return;
   failed_ = true;
   err_ << "FAIL line " << line_ << ": " << args.rest() << " (got " << toJson(actual) << ")\n";
 }

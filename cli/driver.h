@@ -7,10 +7,12 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "cli/script.h"
 #include "toolkit/headless_host.h"
 #include "toolkit/program.h"
+#include "toolkit/value.h"
 
 namespace vrask::cli {
 
@@ -25,17 +27,22 @@ class Driver {
  private:
   class Args;
   using Command = void (Driver::*)(const Args&);
-  // A line of `during-wait`, waiting for the next pumping wait.
+  // A line of `during-wait`, held for a wait of the next command.
   struct Held {
     ScriptLine line;
     int number = 0;
+    int nth = 1;         // the how-manieth fitting wait, counted after the line before it
+    bool looks = false;  // expect or dump: any wait fits; else one that lets events through
+    int waitsSeen = 0;   // fitting waits met while this line was the next to go
     bool delivered = false;
     std::optional<std::string> error;
   };
-
   void runLine(const ScriptLine& line);
   void execute(const ScriptLine& line);
+  void atWait(std::vector<Held>& held, size_t& next, bool pumping);
   void deliver(Held& held);
+  void reportHeld(const std::vector<Held>& held, int command);
+  static std::string whyNotDelivered(const std::vector<Held>& held, size_t i, int command);
   void ignored(const std::string& why);
   // The element a command names: `NAME`, `NAME(I)`, or `NAME I` where the
   // index may follow as a word of its own.
@@ -53,9 +60,16 @@ class Driver {
   void mousemove(const Args& args);
   void text(const Args& args);
   void key(const Args& args);
+  void select(const Args& args);
   void tick(const Args& args);
   void rnd(const Args& args);
   void duringWait(const Args& args);
+  struct Expectation {
+    std::string lhs;
+    std::string op;
+    Value expected;
+  };
+  static Expectation readExpectation(const Args& args);
   void expect(const Args& args);
   void dump(const Args& args);
 
@@ -74,7 +88,8 @@ class Driver {
   Program program_;
   int line_ = 0;
   bool failed_ = false;
-  std::optional<Held> held_;
+  std::vector<Held> held_;  // for the next command
+  bool delivering_ = false;
 };
 
 }  // namespace vrask::cli

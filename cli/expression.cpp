@@ -21,6 +21,13 @@ Value lastMessage(const HeadlessHost& host, bool title) {
   return Value{title ? last.title : last.text};
 }
 
+// `Form.PROPERTY`: the current form's own window.
+Value readFormProperty(const Form& form, const std::string& property) {
+  if (property == "Caption") return Value{form.Caption};
+  if (property == "BackColor") return num(form.BackColor);
+  throw ScriptError("unknown property " + property + " of the form (Caption or BackColor)");
+}
+
 std::optional<double> asNumber(const Value& v) {
   if (const double* d = std::get_if<double>(&v)) return *d;
   if (const std::string* s = std::get_if<std::string>(&v)) {
@@ -68,6 +75,8 @@ Value evaluate(Program& program, const HeadlessHost& host, const std::string& lh
   if (lhs.rfind("var.", 0) == 0) {
     return readVariable(currentForm(program), parseReference(lhs.substr(4)));
   }
+  if (lhs == "focus") return Value{currentForm(program).focused()};
+  if (lhs.rfind("Form.", 0) == 0) return readFormProperty(currentForm(program), lhs.substr(5));
   size_t dot = lhs.find('.');
   if (dot == std::string::npos) throw ScriptError("unknown expression " + lhs);
   Element& element = findElement(currentForm(program), parseReference(lhs.substr(0, dot)));

@@ -11,8 +11,8 @@
 namespace vrask::cli {
 
 // What the left side names, read off the running program: form, ended,
-// clock, messages, message, messagetitle, shared.NAME, var.NAME(i,...),
-// ELEMENT.PROPERTY.
+// clock, messages, message, messagetitle, focus, Form.Caption,
+// Form.BackColor, shared.NAME, var.NAME(i,...), ELEMENT.PROPERTY.
 Value evaluate(Program& program, const HeadlessHost& host, const std::string& lhs);
 
 // The right side: a number, true/false, or a quoted string.

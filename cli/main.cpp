@@ -26,17 +26,25 @@ Script: one command a line; # starts a comment.
   mousemove NAME [I]         NAME_MouseMove
   text NAME VALUE            type VALUE into the text box NAME (a word or a "quoted string")
   key NAME KEY               a key in NAME: Enter, Left, Right or a digit 0-9
+  select NAME ROW            click row ROW (from 0) of the list box NAME: it becomes NAME's
+                             ListIndex, then NAME_Click; a dblclick NAME after it double-clicks it
   tick NAME [COUNT]          fire timer NAME COUNT times (1), each only while it is enabled
   rnd V1 [V2 ...]            the next calls of Rnd return V1, V2, ... (each in [0, 1))
-  during-wait COMMAND        deliver COMMAND (click, dblclick, mousemove, text, key, tick)
-                             inside the next wait that lets events through
+  during-wait [K] COMMAND    deliver COMMAND (click, dblclick, mousemove, text, key, select,
+                             tick) inside the K-th wait (1) of the next command that lets events
+                             through; with expect or dump as COMMAND, look at the screen inside
+                             its K-th wait of any kind. Such lines in a row are all held for the
+                             next command, each at a wait of its own in the order written, K
+                             counted from the wait of the line before
   expect LHS OP RHS          OP: == != < <= > >= contains
-                             LHS: form, ended, clock, messages, message, messagetitle,
-                                  shared.NAME, var.NAME[(i[,j])], ELEMENT.PROPERTY
+                             LHS: form, ended, clock, messages, message, messagetitle, focus,
+                                  Form.Caption, Form.BackColor, shared.NAME,
+                                  var.NAME[(i[,j])], ELEMENT.PROPERTY (ListIndex: -1 for none)
                              RHS: a number, true, false or a "string" with JSON escapes
   dump [NAME ...]            the current form as JSON; with names, only those elements or variables
 
-A target a person could not reach now prints "ignored line N: <why>" and the script goes on.
+A target a person could not reach now (also a list row that does not exist) and a held line
+that no wait reached print "ignored line N: <why>" and the script goes on.
 Exit status: 0 every expect held; 1 one or more failed ("FAIL line N: ..." on stderr);
 2 a script error ("ERROR line N: <reason>" on stderr; the run stops there).
 )";

@@ -55,6 +55,11 @@ std::optional<Value> Element::get(std::string_view property, std::optional<int> 
     return Value{List[static_cast<size_t>(*arg)]};
   }
   if (arg) return std::nullopt;
+  // Readable, but not part of the state a dump lists: the selection is what
+  // a person last clicked, not what the game holds.
+  if (property == "ListIndex") {
+    return kind == Kind::ListBox ? std::optional<Value>(num(ListIndex)) : std::nullopt;
+  }
   if (kind == Kind::Line) {
     if (property == "X1") return num(X1);
     if (property == "Y1") return num(Y1);

@@ -78,6 +78,7 @@ struct Element {
 
   std::string parent;             // menu entries: the name of the menu they stand in
   std::vector<std::string> List;  // list boxes: the rows
+  int ListIndex = -1;             // list boxes: the selected row, -1 for none
   std::vector<Stroke> drawing;    // pictures: what the code drew into them
 
   // "ln1(5)" or "Label33".
@@ -92,7 +93,10 @@ struct Element {
   static const std::vector<std::string_view>& stateProperties(Kind kind);
 
   void AddItem(std::string row) { List.push_back(std::move(row)); }
-  void Clear() { List.clear(); }
+  void Clear() {
+    List.clear();
+    ListIndex = -1;
+  }
   int ListCount() const { return static_cast<int>(List.size()); }
   void Cls() { drawing.clear(); }
 };

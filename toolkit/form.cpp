@@ -117,6 +117,17 @@ std::optional<std::string> Form::whyUnreachable(const Element& e) const {
   return std::nullopt;
 }
 
+std::string Form::focused() const {
+  size_t open = focus.find('(');
+  auto it = elements_.find(focus.substr(0, open));
+  if (it == elements_.end()) return "";
+  const ElementArray& array = *it->second;
+  int index = array.lo();
+  if (open != std::string::npos) index = std::stoi(focus.substr(open + 1));
+  if (!array.contains(index) || whyUnreachable(array[index])) return "";
+  return focus;
+}
+
 Host& Form::host() {
   return program_.host();
 }

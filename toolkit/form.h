@@ -51,7 +51,9 @@ class Form {
   // How far above the middle of the screen the window opens centred, so that
   // a tall form leaves room below it.
   double openAboveCentre = 0;
-  std::string focus;  // the element that has the keyboard focus, by display name
+  // The control the keyboard focus was last given to, by display name: by
+  // the form's code (SetFocus) or by a person clicking or tabbing into it.
+  std::string focus;
 
   // --- registry ---------------------------------------------------------
   // Elements are kept in design order: the order they were added is the order
@@ -82,6 +84,12 @@ class Form {
   void varTable(const std::string& name, std::pair<int, int> rows, std::pair<int, int> cols,
                 std::function<Value(int, int)> get);
   const std::map<std::string, Variable>& variables() const { return vars_; }
+
+  // The control that has the keyboard focus now, by display name, or "" when
+  // none has. A control that is hidden or disabled cannot hold the focus;
+  // nothing else takes it meanwhile, so the control has it back once it can
+  // be reached again, unless the focus was given elsewhere.
+  std::string focused() const;
 
   // Why a person could not reach `e` now (hidden, disabled, inside a hidden
   // panel or a disabled menu), or nothing when it can be clicked.

@@ -7,7 +7,7 @@ void HeadlessHost::msgbox(const std::string& text, const std::string& title) {
 }
 
 void HeadlessHost::wait(double seconds, bool pump) {
-  if (pump && pump_) pump_();
+  if (waitHook_) waitHook_(pump);
   clock_ += seconds;
 }
 

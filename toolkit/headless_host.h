@@ -23,8 +23,9 @@ class HeadlessHost : public Host {
   bool openDocument(const std::string& path) override;
   void programEnded() override { ended_ = true; }
 
-  // Called inside every wait that lets events through, before the clock moves.
-  void setPump(std::function<void()> pump) { pump_ = std::move(pump); }
+  // Called inside every wait, before the clock moves, with whether the wait
+  // lets events through.
+  void setWaitHook(std::function<void(bool pumping)> hook) { waitHook_ = std::move(hook); }
 
   double clock() const { return clock_; }
   const std::vector<Message>& messages() const { return messages_; }
@@ -36,7 +37,7 @@ class HeadlessHost : public Host {
   bool ended_ = false;
   std::vector<Message> messages_;
   std::vector<std::string> documents_;
-  std::function<void()> pump_;
+  std::function<void(bool)> waitHook_;
 };
 
 }  // namespace vrask

@@ -113,6 +113,20 @@ Program::Result Program::userEvent(Form& form, const Element& e, const std::stri
   return {ran ? Outcome::Done : Outcome::NoSuchHandler, {}};
 }
 
+Program::Result Program::rowEvent(Form& form, Element& list, int row,
+                                  const std::string& handler) {
+  if (auto why = whyRefused(form, list)) return {Outcome::Ignored, *why};
+  if (row < 0 || row >= list.ListCount()) {
+    std::string rows = list.ListCount() == 0
+                           ? "it is empty"
+                           : "rows 0.." + std::to_string(list.ListCount() - 1);
+    return {Outcome::Ignored,
+            list.displayName() + " has no row " + std::to_string(row) + " (" + rows + ")"};
+  }
+  list.ListIndex = row;
+  return userEvent(form, list, handler);
+}
+
 std::optional<std::string> Program::whyRefused(const Form& form, const Element& e) const {
   if (ended_) return "the program has ended";
   if (inPlainWait_) return "a wait is in progress";

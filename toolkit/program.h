@@ -58,6 +58,11 @@ class Program {
   // the person could not reach the element now. Queued navigation is carried
   // out when the outermost handler returns.
   Result userEvent(Form& form, const Element& e, const std::string& handler, int keyCode = 0);
+  // A person clicks (or double-clicks, with the handler `NAME_DblClick`) row
+  // `row` of the list box `list`: the row becomes the list's ListIndex, then
+  // the handler runs. Refused as userEvent refuses, and when the list has no
+  // such row.
+  Result rowEvent(Form& form, Element& list, int row, const std::string& handler);
   // Why userEvent would refuse an event on `e` now, or nothing when it would
   // deliver it (for callers that change an element before its event, as
   // typing into a text box does).

@@ -26,10 +26,13 @@ struct TestForm : Form {
   void Form_Load() override {
     addArray("ln1", Kind::Line, 1, 3);
     add("Timer1", Kind::Timer);
+    Element& list = add("List1", Kind::ListBox);
     handleIndexed("ln1_Click", [this](int i) { clicks.push_back(i); });
     handle("Timer1_Timer", [this] { clicks.push_back(0); });
+    handle("List1_Click", [this, &list] { rows.push_back(list.ListIndex); });
   }
   std::vector<int> clicks;
+  std::vector<int> rows;  // ListIndex as the click handler of List1 saw it
 };
 
 struct ProgramFixture : ::testing::Test {
@@ -59,12 +62,12 @@ TEST_F(ProgramFixture, AnArrayHasOnlyItsOwnIndexesAndADialogIsOneOfAKind) {
 }
 
 TEST_F(ProgramFixture, TimersTickWhileEnabledAndAPlainWaitOrTheEndLetsNothingIn) {
-  int pumped = 0;
-  host.setPump([&] { ++pumped; });
+  std::vector<bool> waits;
+  host.setWaitHook([&](bool pumping) { waits.push_back(pumping); });
   form().wait(0.5);
   form().waitWithEvents(0.25);
   EXPECT_DOUBLE_EQ(host.clock(), 0.75);
-  EXPECT_EQ(pumped, 1);
+  EXPECT_EQ(waits, (std::vector<bool>{false, true}));
   program.timerTick(form(), el("Timer1"));  // a timer starts off
   el("Timer1").Enabled = true;
   program.timerTick(form(), el("Timer1"));
@@ -77,6 +80,21 @@ TEST_F(ProgramFixture, TimersTickWhileEnabledAndAPlainWaitOrTheEndLetsNothingIn)
   }
   EXPECT_EQ(form().clicks, (std::vector<int>{0, 1}));
   EXPECT_TRUE(host.ended());
+}
+
+TEST_F(ProgramFixture, ARowClickSelectsAnExistingRowBeforeTheHandlerRuns) {
+  Element& list = el("List1");
+  list.AddItem("a");
+  list.AddItem("b");
+  auto pick = [&](int row) { return program.rowEvent(form(), list, row, "List1_Click").outcome; };
+  EXPECT_EQ(pick(1), Program::Outcome::Done);
+  EXPECT_EQ(pick(2), Program::Outcome::Ignored);
+  list.Enabled = false;
+  EXPECT_EQ(pick(0), Program::Outcome::Ignored);
+  EXPECT_EQ(list.ListIndex, 1);
+  EXPECT_EQ(form().rows, (std::vector<int>{1}));
+  list.Clear();
+  EXPECT_EQ(list.ListIndex, -1);
 }
 
 }  // namespace

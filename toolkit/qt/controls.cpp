@@ -1,5 +1,8 @@
 #include "toolkit/qt/controls.h"
 
+#include <memory>
+#include <utility>
+
 #include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -97,8 +100,12 @@ int keyCodeOf(int qtKey) {
   }
 }
 
-Controls::Controls(QWidget& surface, Form& form, FireEvent fire)
-    : QObject(&surface), surface_(surface), form_(&form), fire_(std::move(fire)) {
+Controls::Controls(QWidget& surface, Form& form, FireEvent fire, PickRow pick)
+    : QObject(&surface),
+      surface_(surface),
+      form_(&form),
+      fire_(std::move(fire)),
+      pick_(std::move(pick)) {
   for (ElementArray* array : form.designOrder()) {
     for (Element& e : *array) {
       if (e.kind == Kind::Button) addButton(e);
@@ -141,9 +148,21 @@ void Controls::addListBox(Element& e) {
   auto* list = new QListWidget(&surface_);
   list->setItemDelegate(new TabbedRows(list));
   list->setFocusPolicy(Qt::TabFocus);
-  QObject::connect(list, &QListWidget::itemClicked, this, [this, &e] {
-    if (form_ != nullptr && form_->hasHandler(e.name + "_Click")) fire_(e, e.name + "_Click", 0);
-  });
+  // The release that ends a double click is no click of its own: a person's
+  // double click is a click, then the double click.
+  auto afterDoubleClick = std::make_shared<bool>(false);
+  QObject::connect(list, &QListWidget::itemPressed, this,
+                   [afterDoubleClick] { *afterDoubleClick = false; });
+  QObject::connect(list, &QListWidget::itemClicked, this,
+                   [this, &e, list, afterDoubleClick](QListWidgetItem* item) {
+                     if (std::exchange(*afterDoubleClick, false) || form_ == nullptr) return;
+                     pick_(e, list->row(item), e.name + "_Click");
+                   });
+  QObject::connect(list, &QListWidget::itemDoubleClicked, this,
+                   [this, &e, list, afterDoubleClick](QListWidgetItem* item) {
+                     *afterDoubleClick = true;
+                     if (form_ != nullptr) pick_(e, list->row(item), e.name + "_DblClick");
+                   });
   watch(e, list);
 }
 
@@ -160,6 +179,7 @@ void Controls::syncOne(const Control& control, const Placement& placement, const
   QWidget& widget = *control.widget;
   bool shown = placement.shown(e) && scale.factor() > 0;
   if (!shown) {
+    letGoOfFocus(widget);
     widget.hide();
     return;
   }
@@ -167,8 +187,9 @@ void Controls::syncOne(const Control& control, const Placement& placement, const
   setIfChanged(widget.font(),
                scaledFont(surface_.font(), e.FontSize, e.FontBold, scale, surface_.logicalDpiY()),
                [&](const QFont& font) { widget.setFont(font); });
-  setIfChanged(widget.isEnabled(), !form_->whyUnreachable(e).has_value(),
-               [&](bool on) { widget.setEnabled(on); });
+  bool enabled = !form_->whyUnreachable(e).has_value();
+  if (!enabled) letGoOfFocus(widget);
+  setIfChanged(widget.isEnabled(), enabled, [&](bool on) { widget.setEnabled(on); });
   setIfChanged(widget.toolTip(), QString::fromStdString(e.ToolTipText),
                [&](const QString& tip) { widget.setToolTip(tip); });
   if (auto* button = qobject_cast<QPushButton*>(&widget)) {
@@ -186,20 +207,28 @@ void Controls::syncOne(const Control& control, const Placement& placement, const
       // The newest rows are the ones a player looks for: the round just played.
       if (e.List.size() > rows.size()) list->scrollToBottom();
     }
+    if (list->currentRow() != e.ListIndex) list->setCurrentRow(e.ListIndex);
   }
   widget.show();
 }
 
+// The window's focus follows the form's: on the control that holds it, or
+// on none.
 void Controls::syncFocus() {
-  if (form_->focus == focusShown_) return;
-  QWidget* widget = widgetOf(form_->focus);
-  if (widget != nullptr) {
-    // A widget that is not shown yet cannot take the focus; it gets it once
-    // it shows.
-    if (!widget->isVisibleTo(&surface_)) return;
-    widget->setFocus(Qt::OtherFocusReason);
+  QWidget* holder = surface_.window()->focusWidget();
+  QWidget* wanted = widgetOf(form_->focused());
+  if (holder == wanted) return;
+  if (wanted == nullptr) {
+    if (holder != nullptr && controlOf(holder) != nullptr) holder->clearFocus();
+    return;
   }
-  focusShown_ = form_->focus;
+  // A widget that is not shown yet cannot take the focus; it gets it once
+  // it shows.
+  if (wanted->isVisibleTo(&surface_)) wanted->setFocus(Qt::OtherFocusReason);
+}
+
+void Controls::letGoOfFocus(QWidget& widget) {
+  if (widget.window()->focusWidget() == &widget) widget.clearFocus();
 }
 
 QWidget* Controls::widgetOf(const std::string& displayName) const {
@@ -234,7 +263,6 @@ bool Controls::eventFilter(QObject* watched, QEvent* event) {
   }
   if (event->type() == QEvent::FocusIn && userMovedFocus(*static_cast<QFocusEvent*>(event))) {
     form_->focus = e.displayName();
-    focusShown_ = form_->focus;
     if (form_->hasHandler(e.name + "_GotFocus")) fire_(e, e.name + "_GotFocus", 0);
   }
   return false;

@@ -29,7 +29,10 @@ FormWindow::FormWindow(FormWindows& windows, Form& form, FormWindow* over)
   };
   canvas_ = new Canvas(form, fire, this);
   setCentralWidget(canvas_);
-  controls_ = new Controls(*canvas_, form, fire);
+  PickRow pick = [this](Element& list, int row, const std::string& handler) {
+    if (form_ != nullptr) windows_.rowEvent(*form_, list, row, handler);
+  };
+  controls_ = new Controls(*canvas_, form, fire, pick);
   canvas_->onResize([this] {
     if (form_ != nullptr) controls_->sync(canvas_->placement(), canvas_->scale());
   });

@@ -48,6 +48,11 @@ void FormWindows::userEvent(Form& form, Element& e, const std::string& handler, 
   syncAll();
 }
 
+void FormWindows::rowEvent(Form& form, Element& list, int row, const std::string& handler) {
+  program_.rowEvent(form, list, row, handler);
+  syncAll();
+}
+
 void FormWindows::timerTick(Form& form, Element& timer) {
   // Held back in a plain wait, which lets nothing reach the forms.
   if (program_.inPlainWait() || program_.ended()) return;

@@ -25,6 +25,9 @@ class FormWindows : public Program::Listener {
 
   // `handler` of `e` on `form`, as from a person; then every window syncs.
   void userEvent(Form& form, Element& e, const std::string& handler, int keyCode = 0);
+  // A person clicks row `row` of the list box `list` (or double-clicks it,
+  // by `handler`); then every window syncs.
+  void rowEvent(Form& form, Element& list, int row, const std::string& handler);
   // A tick of `timer`, unless a plain wait holds ticks back.
   void timerTick(Form& form, Element& timer);
   // A person closed the window of `form`: the main window ends the program,
