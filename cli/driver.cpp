@@ -141,20 +141,14 @@ void Driver::runLine(const ScriptLine& line) {
 }
 
 void Driver::execute(const ScriptLine& line) {
-  static const std::map<std::string, Command> commands{{"start", &Driver::start},
-                                                       {"open", &Driver::open},
-                                                       {"shared", &Driver::shared},
-                                                       {"click", &Driver::click},
-                                                       {"dblclick", &Driver::dblclick},
-                                                       {"mousemove", &Driver::mousemove},
-                                                       {"text", &Driver::text},
-                                                       {"key", &Driver::key},
-                                                       {"select", &Driver::select},
-                                                       {"tick", &Driver::tick},
-                                                       {"rnd", &Driver::rnd},
-                                                       {"during-wait", &Driver::duringWait},
-                                                       {"expect", &Driver::expect},
-                                                       {"dump", &Driver::dump}};
+  static const std::map<std::string, Command> commands{
+      {"start", &Driver::start},       {"open", &Driver::open},
+      {"shared", &Driver::shared},     {"click", &Driver::click},
+      {"dblclick", &Driver::dblclick}, {"mousemove", &Driver::mousemove},
+      {"text", &Driver::text},         {"key", &Driver::key},
+      {"select", &Driver::select},     {"tick", &Driver::tick},
+      {"rnd", &Driver::rnd},           {"during-wait", &Driver::duringWait},
+      {"expect", &Driver::expect},     {"dump", &Driver::dump}};
   const Token& command = line.tokens.front();
   auto it = commands.find(command.text);
   if (command.quoted || it == commands.end()) {
@@ -213,9 +207,10 @@ std::string Driver::whyNotDelivered(const std::vector<Held>& held, size_t i, int
            : h.waitsSeen == 1 ? " reached only one wait"
                               : " reached only " + std::to_string(h.waitsSeen) + " waits";
   } else {
-    why += h.waitsSeen == 0   ? " let no events through"
-           : h.waitsSeen == 1 ? " let events through only once"
-                              : " let events through only " + std::to_string(h.waitsSeen) + " times";
+    why += h.waitsSeen == 0 ? " let no events through"
+           : h.waitsSeen == 1
+               ? " let events through only once"
+               : " let events through only " + std::to_string(h.waitsSeen) + " times";
   }
   if (i > 0) why += " after line " + std::to_string(held[i - 1].number) + "'s";
   return why;

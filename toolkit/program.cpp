@@ -113,13 +113,11 @@ Program::Result Program::userEvent(Form& form, const Element& e, const std::stri
   return {ran ? Outcome::Done : Outcome::NoSuchHandler, {}};
 }
 
-Program::Result Program::rowEvent(Form& form, Element& list, int row,
-                                  const std::string& handler) {
+Program::Result Program::rowEvent(Form& form, Element& list, int row, const std::string& handler) {
   if (auto why = whyRefused(form, list)) return {Outcome::Ignored, *why};
   if (row < 0 || row >= list.ListCount()) {
-    std::string rows = list.ListCount() == 0
-                           ? "it is empty"
-                           : "rows 0.." + std::to_string(list.ListCount() - 1);
+    std::string rows =
+        list.ListCount() == 0 ? "it is empty" : "rows 0.." + std::to_string(list.ListCount() - 1);
     return {Outcome::Ignored,
             list.displayName() + " has no row " + std::to_string(row) + " (" + rows + ")"};
   }

@@ -33,6 +33,11 @@ TEST(Game, OnePlayerSuperVraskPlusPlayedToTheEnd) {
   EXPECT_EQ(variable("sqdone", {41}), 1);
   EXPECT_EQ(text->text(), "");
   run.screenshot(run.window(), "game-typed-move");
+  // Closing the keypad takes the focus out of its box and hands it to no
+  // other control, as if a person had pressed Tab.
+  QTest::mouseClick(run.control("Command2"), Qt::LeftButton);
+  EXPECT_EQ(board.focused(), "");
+  EXPECT_EQ(board.focus, "Text1");
 
   int moves = 1;
   for (int s = 1; s <= 81 && variable("gameover") == 0; ++s) {
@@ -54,6 +59,7 @@ TEST(Game, OnePlayerSuperVraskPlusPlayedToTheEnd) {
   std::string score = run.element("Label5", 0).Caption + "\t" + run.element("Label6").Caption;
   EXPECT_NE(round.find("\t" + score), std::string::npos) << round;
   EXPECT_TRUE(run.element("Label15", 0).Visible);
+  EXPECT_EQ(run.window().focusWidget(), run.control("Command1"));
   QTest::qWait(100);
   run.screenshot(run.window(), "game-over");
 }

@@ -1,8 +1,11 @@
 // The window on a small sketch form: scaling, where clicks land, what a wait
 // lets through, and navigation and the end leaving nothing half done.
 #include <algorithm>
+#include <string>
+#include <vector>
 
 #include <QElapsedTimer>
+#include <QListWidget>
 #include <QPointer>
 #include <QTimer>
 
@@ -26,6 +29,7 @@ struct Sketch : Form {
   bool pump = false, waitReturned = false;
   double seconds = 0.3;
   int ticksInWait = -1, clicksInWait = -1;
+  std::vector<std::string> rowEvents;  // "Click 1": a list event and the ListIndex it saw
 
   void Form_Load() override {
     Width = 7200;
@@ -58,6 +62,14 @@ struct Sketch : Form {
       clicksInWait = overClicks - clicksBefore;
       waitReturned = true;
     });
+
+    Element& list = placed(add("List1", Kind::ListBox), 4200, 600, 1500, 1200);
+    for (const char* row : {"a", "b", "c"}) list.AddItem(row);
+    for (std::string event : {"Click", "DblClick"}) {
+      handle("List1_" + event, [this, event, &list] {
+        rowEvents.push_back(event + " " + std::to_string(list.ListIndex));
+      });
+    }
   }
 };
 
@@ -122,6 +134,24 @@ TEST(Window, AClickGoesToTheTopmostElementThatCanTakeIt) {
   QTest::mousePress(&run.window().canvas(), Qt::LeftButton, {}, run.centreOf(run.element("over")));
   QTest::mouseRelease(&run.window().canvas(), Qt::LeftButton, {}, run.centreOf(run.element("dot")));
   EXPECT_EQ(sketch.overClicks + sketch.underClicks, 3);
+}
+
+TEST(Window, AClickOnAListRowSelectsItBeforeItsHandlerRuns) {
+  WindowRun run;
+  Sketch& sketch = openSketch(run);
+  auto* list = qobject_cast<QListWidget*>(run.control("List1"));
+  ASSERT_NE(list, nullptr);
+  auto centreOfRow = [list](int row) { return list->visualItemRect(list->item(row)).center(); };
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, centreOfRow(1));
+  // A person's double click: a click, then the double click, and no click after it.
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, centreOfRow(2));
+  QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, centreOfRow(2));
+  EXPECT_EQ(sketch.rowEvents, (std::vector<std::string>{"Click 1", "Click 2", "DblClick 2"}));
+  // Emptied by the form's code, the list has no selected row, here and on screen.
+  run.element("List1").Clear();
+  run.windows.syncAll();
+  EXPECT_EQ(run.element("List1").ListIndex, -1);
+  EXPECT_EQ(list->currentRow(), -1);
 }
 
 TEST(Window, APlainWaitHoldsBackClicksAndTicksAPumpingWaitLetsThemThrough) {

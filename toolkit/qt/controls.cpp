@@ -1,6 +1,5 @@
 #include "toolkit/qt/controls.h"
 
-#include <memory>
 #include <utility>
 
 #include <QApplication>
@@ -148,19 +147,12 @@ void Controls::addListBox(Element& e) {
   auto* list = new QListWidget(&surface_);
   list->setItemDelegate(new TabbedRows(list));
   list->setFocusPolicy(Qt::TabFocus);
-  // The release that ends a double click is no click of its own: a person's
-  // double click is a click, then the double click.
-  auto afterDoubleClick = std::make_shared<bool>(false);
-  QObject::connect(list, &QListWidget::itemPressed, this,
-                   [afterDoubleClick] { *afterDoubleClick = false; });
-  QObject::connect(list, &QListWidget::itemClicked, this,
-                   [this, &e, list, afterDoubleClick](QListWidgetItem* item) {
-                     if (std::exchange(*afterDoubleClick, false) || form_ == nullptr) return;
-                     pick_(e, list->row(item), e.name + "_Click");
-                   });
+  // A person's double click comes as a click, then the double click.
+  QObject::connect(list, &QListWidget::itemClicked, this, [this, &e, list](QListWidgetItem* item) {
+    if (form_ != nullptr) pick_(e, list->row(item), e.name + "_Click");
+  });
   QObject::connect(list, &QListWidget::itemDoubleClicked, this,
-                   [this, &e, list, afterDoubleClick](QListWidgetItem* item) {
-                     *afterDoubleClick = true;
+                   [this, &e, list](QListWidgetItem* item) {
                      if (form_ != nullptr) pick_(e, list->row(item), e.name + "_DblClick");
                    });
   watch(e, list);
