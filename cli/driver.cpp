@@ -201,16 +201,15 @@ std::string Driver::whyNotDelivered(const std::vector<Held>& held, size_t i, int
     return "held behind line " + std::to_string(held[i - 1].number) + ", which was not delivered";
   }
   const Held& h = held[i];
+  int n = h.waitsSeen;
   std::string why = "line " + std::to_string(command);
-  if (h.looks) {
-    why += h.waitsSeen == 0   ? " reached no wait"
-           : h.waitsSeen == 1 ? " reached only one wait"
-                              : " reached only " + std::to_string(h.waitsSeen) + " waits";
+  if (n == 0) {
+    why += h.looks ? " reached no wait" : " let no events through";
+  } else if (h.looks) {
+    why += " reached only " + (n == 1 ? std::string("one wait") : std::to_string(n) + " waits");
   } else {
-    why += h.waitsSeen == 0 ? " let no events through"
-           : h.waitsSeen == 1
-               ? " let events through only once"
-               : " let events through only " + std::to_string(h.waitsSeen) + " times";
+    why +=
+        " let events through only " + (n == 1 ? std::string("once") : std::to_string(n) + " times");
   }
   if (i > 0) why += " after line " + std::to_string(held[i - 1].number) + "'s";
   return why;
