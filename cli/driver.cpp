@@ -127,8 +127,10 @@ void Driver::runLine(const ScriptLine& line) {
   std::vector<Held> held = std::move(held_);
   held_.clear();
   size_t next = 0;
+  Waits waits;
   if (!held.empty()) {
-    host_.setWaitHook([this, &held, &next](bool pumping) { atWait(held, next, pumping); });
+    host_.setWaitHook(
+        [this, &held, &next, &waits](bool pumping) { atWait(held, next, waits, pumping); });
   }
   try {
     execute(line);
@@ -137,7 +139,7 @@ void Driver::runLine(const ScriptLine& line) {
     throw;
   }
   host_.setWaitHook(nullptr);
-  reportHeld(held, line_);
+  reportHeld(held, waits, line_);
 }
 
 void Driver::execute(const ScriptLine& line) {
@@ -157,15 +159,18 @@ void Driver::execute(const ScriptLine& line) {
   (this->*(it->second))(Args(line));
 }
 
-// Held lines go in the order written, each at a wait of its own: the next
-// one counts the fitting waits after the wait of the one before it. Waits
-// inside a held line's own command belong to that line, not to the command
-// the lines were held for.
-void Driver::atWait(std::vector<Held>& held, size_t& next, bool pumping) {
-  if (delivering_ || next >= held.size()) return;
+// Held lines go in the order written, each at a wait of its own: a line
+// aims at the nth fitting wait of the command, and goes in at the first
+// fitting wait from there that comes after the wait of the line before it.
+// Waits inside a held line's own command belong to that line, not to the
+// command the lines were held for.
+void Driver::atWait(std::vector<Held>& held, size_t& next, Waits& waits, bool pumping) {
+  if (delivering_) return;
+  ++waits.any;
+  if (pumping) ++waits.pumping;
+  if (next >= held.size()) return;
   Held& first = held[next];
-  if (!pumping && !first.looks) return;
-  if (++first.waitsSeen < first.nth) return;
+  if ((!pumping && !first.looks) || waits.fitting(first) < first.nth) return;
   ++next;
   deliver(first);
 }
@@ -186,33 +191,36 @@ void Driver::deliver(Held& held) {
   delivering_ = false;
 }
 
-void Driver::reportHeld(const std::vector<Held>& held, int command) {
+void Driver::reportHeld(const std::vector<Held>& held, const Waits& waits, int command) {
   for (size_t i = 0; i < held.size(); ++i) {
     const Held& h = held[i];
     line_ = h.number;
     if (h.error) throw ScriptError(*h.error);
-    if (!h.delivered) ignored(whyNotDelivered(held, i, command));
+    if (!h.delivered) ignored(whyNotDelivered(held, i, waits, command));
   }
   line_ = command;
 }
 
-std::string Driver::whyNotDelivered(const std::vector<Held>& held, size_t i, int command) {
+std::string Driver::whyNotDelivered(const std::vector<Held>& held, size_t i, const Waits& waits,
+                                    int command) {
   if (i > 0 && !held[i - 1].delivered) {
     return "held behind line " + std::to_string(held[i - 1].number) + ", which was not delivered";
   }
   const Held& h = held[i];
-  int n = h.waitsSeen;
+  int n = waits.fitting(h);
   std::string why = "line " + std::to_string(command);
-  if (n == 0) {
-    why += h.looks ? " reached no wait" : " let no events through";
-  } else if (h.looks) {
-    why += " reached only " + (n == 1 ? std::string("one wait") : std::to_string(n) + " waits");
-  } else {
-    why +=
-        " let events through only " + (n == 1 ? std::string("once") : std::to_string(n) + " times");
+  // Enough waits came, but the line before took the last one it could have.
+  if (n >= h.nth) {
+    return why + (h.looks ? " reached no wait" : " let no events through") + " after line " +
+           std::to_string(held[i - 1].number) + "'s";
   }
-  if (i > 0) why += " after line " + std::to_string(held[i - 1].number) + "'s";
-  return why;
+  if (n == 0) return why + (h.looks ? " reached no wait" : " let no events through");
+  if (h.looks) {
+    return why + " reached only " +
+           (n == 1 ? std::string("one wait") : std::to_string(n) + " waits");
+  }
+  return why + " let events through only " +
+         (n == 1 ? std::string("once") : std::to_string(n) + " times");
 }
 
 void Driver::ignored(const std::string& why) {

@@ -31,18 +31,24 @@ class Driver {
   struct Held {
     ScriptLine line;
     int number = 0;
-    int nth = 1;         // the how-manieth fitting wait, counted after the line before it
+    int nth = 1;         // goes in at the nth fitting wait of the command, or later
     bool looks = false;  // expect or dump: any wait fits; else one that lets events through
-    int waitsSeen = 0;   // fitting waits met while this line was the next to go
     bool delivered = false;
     std::optional<std::string> error;
   };
   void runLine(const ScriptLine& line);
   void execute(const ScriptLine& line);
-  void atWait(std::vector<Held>& held, size_t& next, bool pumping);
+  // The waits of the command that lines are held for, of each kind.
+  struct Waits {
+    int any = 0;
+    int pumping = 0;
+    int fitting(const Held& held) const { return held.looks ? any : pumping; }
+  };
+  void atWait(std::vector<Held>& held, size_t& next, Waits& waits, bool pumping);
   void deliver(Held& held);
-  void reportHeld(const std::vector<Held>& held, int command);
-  static std::string whyNotDelivered(const std::vector<Held>& held, size_t i, int command);
+  void reportHeld(const std::vector<Held>& held, const Waits& waits, int command);
+  static std::string whyNotDelivered(const std::vector<Held>& held, size_t i, const Waits& waits,
+                                     int command);
   void ignored(const std::string& why);
   // The element a command names: `NAME`, `NAME(I)`, or `NAME I` where the
   // index may follow as a word of its own.

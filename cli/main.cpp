@@ -34,8 +34,8 @@ Script: one command a line; # starts a comment.
                              tick) inside the K-th wait (1) of the next command that lets events
                              through; with expect or dump as COMMAND, look at the screen inside
                              its K-th wait of any kind. Such lines in a row are all held for the
-                             next command, each at a wait of its own in the order written, K
-                             counted from the wait of the line before
+                             next command, each at a wait of its own in the order written: a line
+                             goes in at its K-th wait or, if the line before took that one, after
   expect LHS OP RHS          OP: == != < <= > >= contains
                              LHS: form, ended, clock, messages, message, messagetitle, focus,
                                   Form.Caption, Form.BackColor, shared.NAME,
