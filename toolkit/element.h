@@ -77,6 +77,7 @@ struct Element {
   int Interval = 0;
 
   std::string parent;             // menu entries: the name of the menu they stand in
+  std::string Shortcut;           // menu entries: the keys that choose them ("F1", "Ctrl+N")
   std::vector<std::string> List;  // list boxes: the rows
   int ListIndex = -1;             // list boxes: the selected row, -1 for none
   std::vector<Stroke> drawing;    // pictures: what the code drew into them

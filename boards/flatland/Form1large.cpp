@@ -200,7 +200,7 @@ void Form1large::addGamesMenu() {
   game(Dorvel).Visible = false;
   // New stands on the menu bar beside the games: the games close with the
   // first move, New is there all through.
-  addMenu("gmc", "", "New");
+  addMenu("gmc", "", "New").Shortcut = "Ctrl+N";
 }
 
 void Form1large::addOptionsMenu() {
@@ -238,6 +238,8 @@ void Form1large::addHelpAndExit() {
   addHelpEntry(*this, "rh", "hlp");
   addAboutEntry(*this, "abt", "hlp");
   addExitEntry(*this, "");
+  (*findArray("rh"))[0].Shortcut = "F1";
+  (*findArray("ex"))[0].Shortcut = "Ctrl+Q";
 }
 
 void Form1large::registerHandlers() {

@@ -2,6 +2,10 @@
 
 #include <set>
 
+#include <QHelpEvent>
+#include <QKeySequence>
+#include <QToolTip>
+
 #include "toolkit/form.h"
 
 namespace vrask::qt {
@@ -33,7 +37,20 @@ Menus::Menus(QMenuBar& bar, Form& form, FireEvent fire)
     }
   }
   for (const Entry& entry : entries_) place(entry);
+  bar_.installEventFilter(this);
   sync();
+}
+
+bool Menus::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != &bar_ || event->type() != QEvent::ToolTip) return false;
+  auto* help = static_cast<QHelpEvent*>(event);
+  QAction* action = bar_.actionAt(help->pos());
+  if (action == nullptr || action->menu() != nullptr) {
+    QToolTip::hideText();
+  } else {
+    QToolTip::showText(help->globalPos(), action->toolTip(), &bar_);
+  }
+  return true;
 }
 
 void Menus::create(Element& e, bool holdsOthers) {
@@ -82,10 +99,16 @@ void Menus::sync() {
       setIfChanged(action.isCheckable(), e.Checked, [&](bool on) { action.setCheckable(on); });
       setIfChanged(action.isChecked(), e.Checked, [&](bool on) { action.setChecked(on); });
     }
+    QKeySequence keys = QKeySequence::fromString(QString::fromStdString(e.Shortcut));
+    setIfChanged(action.shortcut(), keys, [&](const QKeySequence& k) { action.setShortcut(k); });
     setIfChanged(action.isEnabled(), e.Enabled, [&](bool on) { action.setEnabled(on); });
     setIfChanged(action.isVisible(), e.Visible, [&](bool on) { action.setVisible(on); });
-    // Without a tip of its own an action shows its text as its tip.
+    // Without a tip of its own an action shows its text as its tip. An entry
+    // in the bar shows no shortcut beside it: its tip names the keys.
     QString tip = e.ToolTipText.empty() ? action.text() : QString::fromStdString(e.ToolTipText);
+    if (!keys.isEmpty() && e.parent.empty()) {
+      tip += QStringLiteral(" (%1)").arg(keys.toString(QKeySequence::NativeText));
+    }
     setIfChanged(action.toolTip(), tip, [&](const QString& t) { action.setToolTip(t); });
   }
 }

@@ -15,7 +15,7 @@
 
 namespace vrask::qt {
 
-class Menus {
+class Menus : public QObject {
  public:
   Menus(QMenuBar& bar, Form& form, FireEvent fire);
 
@@ -28,6 +28,11 @@ class Menus {
   QAction* actionOf(const std::string& displayName) const;
   // The menu that the entry `name` opens, or nullptr.
   QMenu* menuOf(const std::string& name) const;
+
+ protected:
+  // The bar shows the tip of the entry under the mouse: it names the keys of
+  // an entry that stands in the bar itself.
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   struct Entry {
