@@ -10,14 +10,6 @@ namespace vrask::qt {
 
 namespace {
 
-// Word-wrapped, from the top, as a label lays out its caption.
-int labelFlags(int alignment) {
-  int horizontal = Qt::AlignLeft;
-  if (alignment == AlignRight) horizontal = Qt::AlignRight;
-  if (alignment == AlignCenter) horizontal = Qt::AlignHCenter;
-  return horizontal | Qt::AlignTop | Qt::TextWordWrap;
-}
-
 // A circle or a square takes the smaller side of its box, centred in it.
 QRectF squareIn(const QRectF& box) {
   double side = std::min(box.width(), box.height());
@@ -38,6 +30,13 @@ QPointF onGrid(QPointF point, double penWidth) {
 }
 
 }  // namespace
+
+int labelFlags(int alignment) {
+  int horizontal = Qt::AlignLeft;
+  if (alignment == AlignRight) horizontal = Qt::AlignRight;
+  if (alignment == AlignCenter) horizontal = Qt::AlignHCenter;
+  return horizontal | Qt::AlignTop | Qt::TextWordWrap;
+}
 
 QFont scaledFont(const QFont& base, double points, bool bold, const ViewScale& scale,
                  int logicalDpi) {

@@ -37,6 +37,9 @@ class ElementPainter {
   const QPalette& palette_;
 };
 
+// Word-wrapped, from the top, as a label lays out its caption.
+int labelFlags(int alignment);
+
 // A font of `points` at the design's size, scaled to the window.
 QFont scaledFont(const QFont& base, double points, bool bold, const ViewScale& scale,
                  int logicalDpi);

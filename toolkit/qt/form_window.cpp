@@ -1,6 +1,7 @@
 #include "toolkit/qt/form_window.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -42,6 +43,12 @@ FormWindow::FormWindow(FormWindows& windows, Form& form, FormWindow* over)
   timers_ = std::make_unique<FormTimers>(*this, form, [this](Element& timer) {
     if (form_ != nullptr) windows_.timerTick(*form_, timer);
   });
+  // The form starts with the keyboard on the form itself, not on its first
+  // button, where Enter or Space would press it: an exit or a new game
+  // should take a player's choice. Tab goes on to the controls.
+  if (form.focus.empty()) canvas_->setFocus(Qt::OtherFocusReason);
+  smallest_ = std::make_unique<SmallestScale>(canvas_->font(), *canvas_);
+  keepMinimumSize();
   placeOnScreen(over);
   sync();
 }
@@ -75,7 +82,22 @@ void FormWindow::sync() {
   controls_->sync(canvas_->placement(), canvas_->scale());
   if (menus_ != nullptr) menus_->sync();
   timers_->sync();
+  keepMinimumSize();
   canvas_->update();
+}
+
+// The window never shrinks below the size at which every caption still fits
+// and reads, nor below its menu bar's full width, where entries would hide
+// behind the bar's overflow button.
+void FormWindow::keepMinimumSize() {
+  double factor = smallest_->of(*form_);
+  QSize minimum(static_cast<int>(std::ceil(form_->Width * factor)),
+                static_cast<int>(std::ceil(form_->Height * factor)));
+  if (menus_ != nullptr) {
+    QSize bar = menuBar()->sizeHint();
+    minimum = QSize(std::max(minimum.width(), bar.width()), minimum.height() + bar.height());
+  }
+  if (minimumSize() != minimum) setMinimumSize(minimum);
 }
 
 void FormWindow::repaintNow() {

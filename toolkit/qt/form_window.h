@@ -11,6 +11,7 @@
 #include "toolkit/qt/controls.h"
 #include "toolkit/qt/form_timers.h"
 #include "toolkit/qt/menus.h"
+#include "toolkit/qt/smallest_scale.h"
 
 namespace vrask::qt {
 
@@ -45,6 +46,7 @@ class FormWindow : public QMainWindow {
   void fire(Element& e, const std::string& handler, int keyCode);
   void pressDefaultButton();
   void placeOnScreen(FormWindow* over);
+  void keepMinimumSize();
 
   FormWindows& windows_;
   Form* form_;
@@ -52,6 +54,7 @@ class FormWindow : public QMainWindow {
   Controls* controls_;
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<FormTimers> timers_;
+  std::unique_ptr<SmallestScale> smallest_;
 };
 
 }  // namespace vrask::qt

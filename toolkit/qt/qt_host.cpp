@@ -5,16 +5,54 @@
 #include <cstdlib>
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QProcess>
 #include <QTimer>
-#include <QUrl>
 
 #include "toolkit/qt/form_windows.h"
 
 namespace vrask::qt {
+
+namespace {
+
+bool isInput(QEvent::Type type) {
+  switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+      return true;
+    default:
+      return false;
+  }
+}
+
+// What a person does during a plain wait is dropped as it arrives. Held in
+// the window system's queue instead, it would all be played the moment the
+// wait ends: a click made during the computer's pause would become a move.
+class InputDropper : public QObject {
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    // Taken as handled, a key cannot reach a menu entry's shortcut either.
+    if (event->type() == QEvent::ShortcutOverride) {
+      event->accept();
+      return true;
+    }
+    return isInput(event->type());
+  }
+};
+
+}  // namespace
 
 QtHost::QtHost()
     : quit_([] { QCoreApplication::exit(0); }), waitScale_(waitScaleFromEnvironment()) {}
@@ -41,16 +79,18 @@ void QtHost::msgbox(const std::string& text, const std::string& title) {
 }
 
 // A wait that lets events through delivers clicks, keys and ticks; a plain
-// one only repaints: input stays queued until it is over, and ticks are held
-// back by the windows.
+// one only repaints: input that arrives meanwhile is dropped, and ticks are
+// held back by the windows.
 void QtHost::wait(double seconds, bool pump) {
   if (ended_) return;
   if (windows_ != nullptr) windows_->syncAll();
   QEventLoop loop;
   auto milliseconds = static_cast<int>(std::lround(std::max(0.0, seconds * waitScale_) * 1000));
   QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+  InputDropper dropper;
+  if (!pump) QCoreApplication::instance()->installEventFilter(&dropper);
   waits_.push_back(&loop);
-  loop.exec(pump ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
+  loop.exec();
   std::erase(waits_, &loop);
 }
 
@@ -61,7 +101,30 @@ void QtHost::refresh(Form& form) {
 bool QtHost::openDocument(const std::string& path) {
   QFileInfo file(QString::fromStdString(path));
   if (!file.isFile()) return false;
-  return QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()));
+  QString page = file.absoluteFilePath();
+  // The desktop's opener hands the page to the browser and says whether it
+  // could; it may also run for as long as the browser does.
+  auto* opener = new QProcess(&openers_);
+  QObject::connect(opener, &QProcess::errorOccurred, opener, [this, opener, page](auto error) {
+    if (error != QProcess::FailedToStart) return;
+    cannotShow(page);
+    opener->deleteLater();
+  });
+  QObject::connect(opener, &QProcess::finished, opener,
+                   [this, opener, page](int exitCode, QProcess::ExitStatus status) {
+                     if (status != QProcess::NormalExit || exitCode != 0) cannotShow(page);
+                     opener->deleteLater();
+                   });
+  opener->start(QStringLiteral("xdg-open"), {page});
+  return true;
+}
+
+void QtHost::cannotShow(const QString& page) {
+  msgbox(
+      "The help page could not be shown: no web browser could be started.\n\n"
+      "Open this file in a web browser to read it:\n" +
+          page.toStdString(),
+      "No help");
 }
 
 // The windows go at once; the running handler finishes (its waits and

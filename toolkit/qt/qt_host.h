@@ -6,9 +6,12 @@
 #include <string>
 #include <vector>
 
+#include <QObject>
+
 #include "toolkit/host.h"
 
 class QEventLoop;
+class QString;
 class QMessageBox;
 
 namespace vrask::qt {
@@ -34,6 +37,9 @@ class QtHost : public Host {
   void msgbox(const std::string& text, const std::string& title) override;
   void wait(double seconds, bool pump) override;
   void refresh(Form& form) override;
+  // False when there is no such file. A file that is there goes to the
+  // desktop's opener; when no browser can show it, the player is told where
+  // the file is, and the game goes on.
   bool openDocument(const std::string& path) override;
   void programEnded() override;
 
@@ -44,6 +50,8 @@ class QtHost : public Host {
   static double waitScaleFromEnvironment();
 
  private:
+  void cannotShow(const QString& page);
+
   FormWindows* windows_ = nullptr;
   std::function<void()> quit_;
   std::string messageTitle_;
@@ -51,6 +59,9 @@ class QtHost : public Host {
   bool ended_ = false;
   std::vector<QEventLoop*> waits_;
   std::vector<QMessageBox*> messages_;
+  // Holds the openers still running: they go with the host, and their answer
+  // never reaches a host that has gone.
+  QObject openers_;
 };
 
 }  // namespace vrask::qt
