@@ -156,8 +156,10 @@ TEST(Desktop, AClickDuringTheComputersPauseIsNotPlayedAfterIt) {
 TEST(Desktop, AWindowKeepsItsCaptionsReadableAndItsMenusInView) {
   WindowRun run;
   openActive(run, "title");
+  run.program.timerTick(run.form(), run.element("Timer2"));  // the front page, now
   run.window().resize(400, 300);
   QTest::qWait(100);
+  run.screenshot(run.window(), "desktop-title-smallest");
   QSize shown = run.window().size();
   EXPECT_GT(shown.width(), 400);
   EXPECT_GT(shown.height(), 300);
@@ -178,6 +180,37 @@ TEST(Desktop, AWindowKeepsItsCaptionsReadableAndItsMenusInView) {
   auto* overflow = run.window().menuBar()->findChild<QToolButton*>();
   EXPECT_TRUE(overflow == nullptr || !overflow->isVisible());
   EXPECT_GE(run.window().canvas().scale().toPixels(8 * 20), qt::kSmallestTextPixels);
+}
+
+// The columns of the title band that hold at least three pixels of `colour`.
+std::pair<int, int> spanOf(const QImage& image, int top, int bottom, QColor colour) {
+  int first = image.width(), last = -1;
+  for (int x = 0; x < image.width(); ++x) {
+    int hits = 0;
+    for (int y = top; y < bottom; ++y) hits += image.pixelColor(x, y) == colour ? 1 : 0;
+    if (hits >= 3) first = std::min(first, x), last = std::max(last, x);
+  }
+  return {first, last};
+}
+
+TEST(Desktop, TheTitlesShadowIsTheTitleMovedLeft) {
+  WindowRun run;
+  openActive(run, "title");
+  run.window().resize(1100, 660);
+  run.program.timerTick(run.form(), run.element("Timer2"));
+  QTest::qWait(300);
+  // The whole window, as a screenshot takes it: the canvas is painted as a
+  // part of it.
+  qt::Canvas& canvas = run.window().canvas();
+  QImage image = run.window().grab().toImage();
+  QRectF band = canvas.scale().toPixels(qt::Placement(run.form()).rectOf(run.element("Runner", 1)));
+  band.translate(canvas.mapTo(&run.window(), QPoint()));
+  auto title = spanOf(image, int(band.top()), int(band.bottom()), QColor(255, 255, 0));
+  auto shadow = spanOf(image, int(band.top()), int(band.bottom()), QColor(0x40, 0x40, 0x40));
+  double shift = canvas.scale().toPixels(240);
+  EXPECT_NEAR(title.first - shadow.first, shift, 2);
+  // The title stands over the shadow's last letter.
+  EXPECT_LE(shadow.second, title.second - shift + 2);
 }
 
 TEST(Desktop, TheHelpPageIsFoundWhereverTheProgramStarts) {

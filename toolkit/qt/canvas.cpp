@@ -53,7 +53,7 @@ void Canvas::paintEvent(QPaintEvent*) {
     return;
   }
   ViewScale view = scale();
-  ElementPainter(painter, placement_, view, palette()).paintForm(*form_);
+  ElementPainter(painter, placement_, view, palette(), font()).paintForm(*form_);
 }
 
 Element* Canvas::targetAt(QPointF pixel, const std::string& event) const {

@@ -127,8 +127,10 @@ void ElementPainter::paintLabel(const Element& e) {
   QRectF box = scale_.toPixels(placement_.rectOf(e));
   if (e.BackStyle != 0) painter_.fillRect(box, toQColor(e.BackColor, palette_));
   if (e.Caption.empty()) return;
-  painter_.setFont(scaledFont(painter_.font(), e.FontSize, e.FontBold, scale_,
-                              painter_.device()->logicalDpiY()));
+  // Every caption from the one face: a painter's font can differ from the
+  // face it started with, and the title and its shadow must match exactly.
+  painter_.setFont(
+      scaledFont(face_, e.FontSize, e.FontBold, scale_, painter_.device()->logicalDpiY()));
   // A disabled label reads greyed, whatever its colour, as people know it.
   painter_.setPen(e.Enabled ? toQColor(e.ForeColor, palette_)
                             : palette_.color(QPalette::Disabled, QPalette::WindowText));

@@ -15,9 +15,10 @@ namespace vrask::qt {
 
 class ElementPainter {
  public:
+  // Captions are set in `face`, scaled.
   ElementPainter(QPainter& painter, const Placement& placement, const ViewScale& scale,
-                 const QPalette& palette)
-      : painter_(painter), placement_(placement), scale_(scale), palette_(palette) {}
+                 const QPalette& palette, const QFont& face)
+      : painter_(painter), placement_(placement), scale_(scale), palette_(palette), face_(face) {}
 
   // The whole form: its back colour over the whole widget, then every shown
   // element in design order, each cut to the pictures that hold it.
@@ -35,6 +36,7 @@ class ElementPainter {
   const Placement& placement_;
   const ViewScale& scale_;
   const QPalette& palette_;
+  const QFont& face_;
 };
 
 // Word-wrapped, from the top, as a label lays out its caption.
