@@ -17,6 +17,33 @@
 
 namespace vrask::qt {
 
+// A ring round the control the player tabbed to, over everything else: the
+// style's own mark is a faint line that a player easily misses.
+class FocusRing : public QWidget {
+ public:
+  static constexpr int kWidth = 3;
+
+  explicit FocusRing(QWidget& surface) : QWidget(&surface) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::NoFocus);
+    hide();
+  }
+
+  void around(const QWidget& control) {
+    setGeometry(control.geometry().adjusted(-kWidth, -kWidth, kWidth, kWidth));
+    raise();
+    show();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), kWidth));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 4, 4);
+  }
+};
+
 namespace {
 
 // Rows of a list box hold TABs between their columns ("Round 1 -Blue\t5\t3"):
@@ -46,6 +73,10 @@ class TabbedRows : public QStyledItemDelegate {
     painter->restore();
   }
 };
+
+bool byKeyboard(const QFocusEvent& event) {
+  return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason;
+}
 
 bool userMovedFocus(const QFocusEvent& event) {
   Qt::FocusReason reason = event.reason();
@@ -104,7 +135,8 @@ Controls::Controls(QWidget& surface, Form& form, FireEvent fire, PickRow pick)
       surface_(surface),
       form_(&form),
       fire_(std::move(fire)),
-      pick_(std::move(pick)) {
+      pick_(std::move(pick)),
+      ring_(new FocusRing(surface)) {
   for (ElementArray* array : form.designOrder()) {
     for (Element& e : *array) {
       if (e.kind == Kind::Button) addButton(e);
@@ -164,6 +196,13 @@ void Controls::sync(const Placement& placement, const ViewScale& scale) {
     if (control.widget) syncOne(control, placement, scale);
   }
   syncFocus();
+  // The ring follows its control when the window changes size.
+  QWidget* focused = surface_.window()->focusWidget();
+  if (ring_->isVisible() && focused != nullptr && focused->isVisible()) {
+    ring_->around(*focused);
+  } else {
+    ring_->hide();
+  }
 }
 
 void Controls::syncOne(const Control& control, const Placement& placement, const ViewScale& scale) {
@@ -252,6 +291,10 @@ bool Controls::eventFilter(QObject* watched, QEvent* event) {
   Element& e = *control->element;
   if (event->type() == QEvent::KeyPress && e.kind == Kind::TextBox) {
     return keyDown(e, static_cast<QKeyEvent*>(event)->key());
+  }
+  if (event->type() == QEvent::FocusOut) ring_->hide();
+  if (event->type() == QEvent::FocusIn && byKeyboard(*static_cast<QFocusEvent*>(event))) {
+    ring_->around(*control->widget);
   }
   if (event->type() == QEvent::FocusIn && userMovedFocus(*static_cast<QFocusEvent*>(event))) {
     form_->focus = e.displayName();

@@ -26,6 +26,8 @@ using FireEvent = std::function<void(Element& e, const std::string& handler, int
 // A person's click (or double click, by `handler`) on row `row` of a list box.
 using PickRow = std::function<void(Element& list, int row, const std::string& handler)>;
 
+class FocusRing;
+
 class Controls : public QObject {
  public:
   // Creates a widget for each button, text box and list box of `form` as a
@@ -67,6 +69,7 @@ class Controls : public QObject {
   FireEvent fire_;
   PickRow pick_;
   std::vector<Control> controls_;
+  FocusRing* ring_;  // the mark round the control the player tabbed to
 };
 
 // The toolkit's key code of a key, or -1 when the forms know no such key.
