@@ -19,7 +19,7 @@ void openHelp(Form& form) {
 
 void addHelpEntry(Form& form, const std::string& name, const std::string& parentMenu,
                   const std::string& caption) {
-  form.addMenu(name, parentMenu, caption);
+  form.addMenu(name, parentMenu, caption).Shortcut = "F1";
   form.handle(name + "_Click", [&form] { openHelp(form); });
 }
 
@@ -30,7 +30,7 @@ void addAboutEntry(Form& form, const std::string& name, const std::string& paren
 }
 
 void addExitEntry(Form& form, const std::string& parentMenu, const std::string& caption) {
-  form.addMenu("ex", parentMenu, caption);
+  form.addMenu("ex", parentMenu, caption).Shortcut = "Ctrl+Q";
   form.handle("ex_Click", [&form] { form.End(); });
 }
 

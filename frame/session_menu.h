@@ -14,7 +14,7 @@ inline constexpr const char* kHelpFile = "vrask zorvex help.htm";
 
 // Help (`rh`, `rulen`, ...): opens the help page with the system's default
 // program, or says it was not found (message "Vrask zorvex help.htm was not
-// found in program directory.", title "No help").
+// found in program directory.", title "No help"). F1 on every board.
 void addHelpEntry(Form& form, const std::string& name, const std::string& parentMenu,
                   const std::string& caption = "Rules and Help");
 // What the help entry does, for a board that opens help from elsewhere too.
@@ -24,7 +24,8 @@ void openHelp(Form& form);
 void addAboutEntry(Form& form, const std::string& name, const std::string& parentMenu,
                    const std::string& caption = "About");
 
-// Exit (`ex`): the program ends at once, no question asked.
+// Exit (`ex`): the program ends at once, no question asked. Ctrl+Q on every
+// board.
 void addExitEntry(Form& form, const std::string& parentMenu, const std::string& caption = "Exit");
 
 // `setserv` and `setclient`: online play is not in the program; each shows a

@@ -238,8 +238,6 @@ void Form1large::addHelpAndExit() {
   addHelpEntry(*this, "rh", "hlp");
   addAboutEntry(*this, "abt", "hlp");
   addExitEntry(*this, "");
-  (*findArray("rh"))[0].Shortcut = "F1";
-  (*findArray("ex"))[0].Shortcut = "Ctrl+Q";
 }
 
 void Form1large::registerHandlers() {
