@@ -83,10 +83,10 @@ void Keypad::addPanel(const KeypadConfig& config) {
   enter_->Caption = "enter";
   form_.handle(config.enterButton + "_Click", [this] { onEnter_(); });
 
-  Element& back = placeIn(form_.add("Command2", Kind::Button), kMargin + 2 * kStepX,
+  Element& back = placeIn(form_.add(config.closeButton, Kind::Button), kMargin + 2 * kStepX,
                           lastRow + kStepY, kKey, kKeyHeight);
   back.Caption = "<<<";
-  form_.handle("Command2_Click", [this] { close(); });
+  form_.handle(config.closeButton + "_Click", [this] { close(); });
 }
 
 void Keypad::showPanel(bool on) {

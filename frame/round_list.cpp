@@ -1,6 +1,7 @@
 #include "frame/round_list.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "frame/helpers.h"
 #include "toolkit/form.h"
@@ -16,13 +17,24 @@ constexpr double kRow = 255;
 
 RoundList::RoundList(Form& form, const RoundListConfig& config) : config_(config) {
   const Place& at = config.place;
-  int lo = std::min({config.blueHeader, config.redHeader, config.blueTotal, config.redTotal});
-  int hi = std::max({config.blueHeader, config.redHeader, config.blueTotal, config.redTotal});
-  ElementArray& labels = form.addArray(config.labels, Kind::Label, lo, hi);
+  bool ownHeaders = !config.headerLabels.empty();
+  ElementArray* headers = nullptr;
+  if (ownHeaders) {
+    headers = &form.addArray(config.headerLabels, Kind::Label,
+                             std::min(config.blueHeader, config.redHeader),
+                             std::max(config.blueHeader, config.redHeader));
+  }
+  std::vector<int> own{config.blueTotal, config.redTotal};
+  if (!ownHeaders) own.insert(own.end(), {config.blueHeader, config.redHeader});
+  ElementArray& labels = form.addArray(config.labels, Kind::Label,
+                                       *std::min_element(own.begin(), own.end()),
+                                       *std::max_element(own.begin(), own.end()));
   for (Element& label : labels) label.Visible = false;
+  if (headers == nullptr) headers = &labels;
 
-  auto place = [&](int index, const std::string& caption, double column, double top) {
-    Element& label = labels[index];
+  auto place = [&](ElementArray& array, int index, const std::string& caption, double column,
+                   double top) {
+    Element& label = array[index];
     label.Visible = true;
     label.Caption = caption;
     label.Left = at.left + column * kColumn;
@@ -32,8 +44,8 @@ RoundList::RoundList(Form& form, const RoundListConfig& config) : config_(config
     label.BackStyle = 0;
     return &label;
   };
-  place(config.blueHeader, "Blue points", 1, at.top)->ForeColor = color::Blue;
-  place(config.redHeader, "Red points", 2, at.top)->ForeColor = color::Red;
+  place(*headers, config.blueHeader, "Blue points", 1, at.top)->ForeColor = color::Blue;
+  place(*headers, config.redHeader, "Red points", 2, at.top)->ForeColor = color::Red;
 
   list_ = &form.add(config.list, Kind::ListBox);
   list_->Left = at.left;
@@ -44,8 +56,8 @@ RoundList::RoundList(Form& form, const RoundListConfig& config) : config_(config
   list_->AddItem(config.firstRow);
 
   double totalsTop = list_->Top + list_->Height;
-  blueTotal_ = place(config.blueTotal, "0", 1, totalsTop);
-  redTotal_ = place(config.redTotal, "0", 2, totalsTop);
+  blueTotal_ = place(labels, config.blueTotal, "0", 1, totalsTop);
+  redTotal_ = place(labels, config.redTotal, "0", 2, totalsTop);
 }
 
 std::string RoundList::winner(int blue, int red) {

@@ -13,7 +13,8 @@ class Form;
 
 struct RoundListConfig {
   std::string list = "List2";     // `List2`, or `List4` on some boards
-  std::string labels = "Label7";  // the label array of the headers and totals
+  std::string labels = "Label7";  // the label array of the totals, and of the headers too
+  std::string headerLabels{};     // a label array of the headers alone, when there is one
   int blueHeader = 1;             // "Blue points"
   int redHeader = 2;              // "Red points"
   int blueTotal = 5;              // Blue's total over all games on the form

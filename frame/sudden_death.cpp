@@ -60,7 +60,7 @@ SuddenDeath::SuddenDeath(Form& form, const SuddenDeathConfig& config) : form_(fo
   slider_->Height = kBarHeight;
   slider_->BackColor = color::Red;
   fullBar();
-  readout_ = &form.add("Label11", Kind::Label);
+  readout_ = &form.add(config.readout, Kind::Label);
   readout_->Left = config.bar.left;
   readout_->Top = config.bar.top + kBarHeight + 60;
   readout_->Width = 1200;

@@ -22,6 +22,7 @@ struct SuddenDeathConfig {
   int interval = 10;              // its interval in ms; each tick takes 100 ms off all the same
   std::string limitVar = "timelimit";
   std::string leftVar = "timeleft";
+  std::string readout = "Label11";  // the label that shows the time left
   Place bar;  // the time bar `Picture5` (3000 x 240 twips) with `Label11` below it (1200 x 255)
 };
 
