@@ -1,0 +1,90 @@
+// Where the cube board's elements stand, in twips. The drawn figure is the
+// same in every view: a view changes what each drawn place shows, never where
+// it stands.
+#pragma once
+
+#include "boards/zorvex/tables.h"
+#include "frame/helpers.h"
+
+namespace vrask::cube::layout {
+
+struct Rect {
+  double left = 0, top = 0, width = 0, height = 0;
+};
+struct Segment {
+  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+};
+struct Point {
+  double x = 0, y = 0;
+};
+
+// A node of the lattice on the screen, in the slanted projection.
+Point nodeAt(Node n);
+
+// The drawn line of slot `slot` (1..54) from its first end to its second.
+Segment lineAt(int slot);
+// A thin strand beside a drawn line, `offset` (1 or 2) strand widths away.
+Segment strandAt(int slot, int offset);
+// The diagonal of the drawn square `slot`, from its low corner across.
+Segment diagonalAt(int slot);
+// The middle of the drawn square `slot`.
+Point middleOf(int slot);
+
+// The hit zones `Label22(0..97)`: each covers one stretch of one drawn line.
+inline constexpr int kZones = 98;
+int zoneLine(int zone);
+// The first zone of a drawn line.
+int firstZoneOf(int slot);
+Rect zoneAt(int zone);
+
+// The number `Label11(n)` beside the drawn line of view-1 number n.
+Rect numberAt(int slot);
+// The ring `Shape1(s)` and the circle `Label9(s)` on the middle of square s.
+Rect ringAt(int slot);
+Rect circleAt(int slot);
+// The second click target of circle 30.
+inline constexpr Rect kSecondCircle30{6240, 2880, 480, 480};
+
+// The view marker `Line3(i)`: two strokes for each view.
+Segment viewMarkerAt(int i);
+
+// The form: the cube on the left, two side columns on the right.
+inline constexpr double kFormWidth = 18000;
+inline constexpr double kFormHeight = 9900;
+inline constexpr Rect kSidePanel{10860, 0, kFormWidth - 10860, kFormHeight};
+
+inline constexpr double kColumnLeft = 11040;
+inline constexpr double kColumnWidth = 3300;
+inline constexpr double kLineHeight = 285;
+inline constexpr Rect kGameName{kColumnLeft, 180, kColumnWidth, 540};
+inline constexpr Rect kStatus{kColumnLeft, 780, kColumnWidth, 600};
+inline constexpr double kHalf = 1590;
+inline constexpr double kRightHalf = kColumnLeft + 1710;
+inline constexpr double kPlayerTop = 1500;
+inline constexpr double kScoreTop = 1800;
+inline constexpr double kScoreHeight = 660;
+inline constexpr double kYourTurnTop = 2490;
+inline constexpr Rect kMovesLeft{kColumnLeft, 2880, kColumnWidth, kLineHeight};
+inline constexpr Rect kNonScoring{kColumnLeft, 3180, kColumnWidth, kLineHeight};
+inline constexpr Rect kLastMove{kColumnLeft, 3480, kColumnWidth, kLineHeight};
+inline constexpr Rect kViewLabel{kColumnLeft + 960, 3930, 1380, 375};
+inline constexpr Rect kViewDown{kColumnLeft, 3900, 840, 420};
+inline constexpr Rect kViewUp{kColumnLeft + 2460, 3900, 840, 420};
+inline constexpr Rect kNewGame{kColumnLeft, 4560, 1590, 450};
+inline constexpr Place kKeypadOpener{kColumnLeft + 1830, 4590};
+inline constexpr double kGameOverTop = 5160;
+inline constexpr double kGameOverRow = 540;
+inline constexpr Rect kHintList{kColumnLeft, 6300, kColumnWidth, 1500};
+inline constexpr Rect kTimeHeading{kColumnLeft, 8040, kColumnWidth, kLineHeight};
+inline constexpr Place kTimeBar{kColumnLeft, 8370};
+
+inline constexpr double kSecondLeft = 14520;
+inline constexpr Rect kShowRounds{kSecondLeft, 240, 3300, 420};
+inline constexpr Place kRoundList{kSecondLeft, 240};
+inline constexpr Rect kHideRounds{kSecondLeft + 2400, 3180, 900, 360};
+inline constexpr Place kKeypad{kSecondLeft + 720, 3900};
+
+// Working elements the player never sees.
+inline constexpr Rect kHidden{kColumnLeft, 9300, 1200, 255};
+
+}  // namespace vrask::cube::layout

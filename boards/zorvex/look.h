@@ -1,0 +1,24 @@
+// How the cube board marks its state besides Blue, Red, Black and yellow.
+#pragma once
+
+namespace vrask::cube {
+
+// A painted line is drawn 5 wide, a free one 1.
+inline constexpr int kPainted = 5;
+inline constexpr int kFree = 1;
+// A played ring is drawn 8 wide.
+inline constexpr int kPlayedRing = 8;
+
+// The status text of "No score" when Red moves next.
+inline constexpr int kRedText = 16576;
+// The ring of a square that filled up without scoring.
+inline constexpr int kDead = 16711935;
+
+// A dark slate behind the cube: all eight cube colours, white and black
+// included, stand out on it, and so do the yellow numbers.
+inline constexpr int kBoardColour = 0x705848;
+// A pale blue for the side columns.
+inline constexpr int kPanelColour = 0xF0E4D8;
+inline constexpr int kNumberColour = 65535;
+
+}  // namespace vrask::cube
