@@ -292,6 +292,7 @@ void zorvex::addCumulativePanel() {
                                                                   .headerLabels = "Label20",
                                                                   .blueHeader = 1,
                                                                   .redHeader = 2,
+                                                                  .firstRow = "",
                                                                   .afterWinner = "\t\t",
                                                                   .betweenScores = "\t\t",
                                                                   .place = lay::kRoundList});
