@@ -66,4 +66,11 @@ inline constexpr ModeText kModeTexts[] = {
     {17, "Bonus game - Line Vrask with Vrask Move", "Game = Line Vrask (with Vrask move)"},
 };
 
+inline const ModeText& modeText(int mode) {
+  for (const ModeText& text : kModeTexts) {
+    if (text.mode == mode) return text;
+  }
+  return kModeTexts[0];
+}
+
 }  // namespace vrask::cube

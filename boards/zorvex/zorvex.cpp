@@ -67,7 +67,7 @@ void zorvex::Form_Load() {
 
   gamemode = VraskClassic;
   game(VraskClassic).Checked = true;
-  Label36->Caption = kModeTexts[7].name;
+  Label36->Caption = modeText(VraskClassic).name;
   openerflag = 1;
   tables = settables();
   for (int n = 1; n <= kLines; ++n) {

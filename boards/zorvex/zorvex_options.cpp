@@ -13,17 +13,6 @@ namespace vrask {
 
 using namespace cube;
 
-namespace {
-
-const ModeText& modeText(int mode) {
-  for (const ModeText& text : kModeTexts) {
-    if (text.mode == mode) return text;
-  }
-  return kModeTexts[0];
-}
-
-}  // namespace
-
 bool zorvex::gridOn() const {
   return grid_->on();
 }
