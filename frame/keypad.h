@@ -19,8 +19,8 @@ struct KeypadConfig {
   std::string enterButton = "Command6";
   std::string openerButton = "Command3";
   std::string closeButton = "Command2";  // "<<<", where the board has no other use for the name
-  Place panel;   // `Picture1`: 1815 x 2985 twips
-  Place opener;  // the opener button: 1215 x 375 twips
+  Place panel;                           // `Picture1`: 1815 x 2985 twips
+  Place opener;                          // the opener button: 1215 x 375 twips
 };
 
 class Keypad {

@@ -26,9 +26,9 @@ RoundList::RoundList(Form& form, const RoundListConfig& config) : config_(config
   }
   std::vector<int> own{config.blueTotal, config.redTotal};
   if (!ownHeaders) own.insert(own.end(), {config.blueHeader, config.redHeader});
-  ElementArray& labels = form.addArray(config.labels, Kind::Label,
-                                       *std::min_element(own.begin(), own.end()),
-                                       *std::max_element(own.begin(), own.end()));
+  ElementArray& labels =
+      form.addArray(config.labels, Kind::Label, *std::min_element(own.begin(), own.end()),
+                    *std::max_element(own.begin(), own.end()));
   for (Element& label : labels) label.Visible = false;
   if (headers == nullptr) headers = &labels;
 

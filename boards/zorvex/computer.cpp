@@ -72,8 +72,8 @@ std::vector<int> squareCandidates(const Tables& t, const CubeFaces& cubefaces,
     if (std::count(faces.begin() + 1, faces.end(), 1) != 4) continue;
     for (int k = 1; k <= 6; ++k) {
       if (faces.at(static_cast<size_t>(k)) == 0) {
-        bad.at(static_cast<size_t>(t.cubesquares.at(static_cast<size_t>(c)).at(
-            static_cast<size_t>(k)))) = 1;
+        bad.at(static_cast<size_t>(
+            t.cubesquares.at(static_cast<size_t>(c)).at(static_cast<size_t>(k)))) = 1;
       }
     }
   }

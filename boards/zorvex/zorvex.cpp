@@ -265,12 +265,14 @@ void zorvex::addOptionsMenu() {
 // the cumulative score are wanted at any time.
 void zorvex::addViewMenu() {
   addMenu("vue", "", "View");
-  grid_ = std::make_unique<GridSwitch>(*this, "vue", [this](bool on) { grid_Click(on); }, "grid");
-  keypad_ = std::make_unique<Keypad>(*this, *grid_, [this] { Command6_Click(); },
-                                     KeypadConfig{.parentMenu = "vue",
-                                                  .closeButton = "Command9",
-                                                  .panel = lay::kKeypad,
-                                                  .opener = lay::kKeypadOpener});
+  grid_ = std::make_unique<GridSwitch>(
+      *this, "vue", [this](bool on) { grid_Click(on); }, "grid");
+  keypad_ = std::make_unique<Keypad>(
+      *this, *grid_, [this] { Command6_Click(); },
+      KeypadConfig{.parentMenu = "vue",
+                   .closeButton = "Command9",
+                   .panel = lay::kKeypad,
+                   .opener = lay::kKeypadOpener});
   keypad_->panel().Visible = false;
   cuscore = &addMenu("cuscore", "vue", "Show Cumulative score");
 }

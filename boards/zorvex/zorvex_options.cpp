@@ -110,8 +110,8 @@ void zorvex::newz_Click() {
     keypad_->text().Text.clear();
     keypad_->focusText();
   }
-  for (Element* e : {&grid_->entry(), &keypad_->entry(), &keypad_->text(),
-                     &keypad_->enterButton()}) {
+  for (Element* e :
+       {&grid_->entry(), &keypad_->entry(), &keypad_->text(), &keypad_->enterButton()}) {
     e->Enabled = true;
   }
   List3->Clear();

@@ -132,7 +132,8 @@ void zorvex::flashFigure(const std::vector<int>& boardLines, double seconds) {
   }
   Refresh();
   wait(seconds);
-  for (size_t i = 0; i < boardLines.size(); ++i) LN(flashlist.at(i + 1)).BorderColor = flashsave.at(i + 1);
+  for (size_t i = 0; i < boardLines.size(); ++i)
+    LN(flashlist.at(i + 1)).BorderColor = flashsave.at(i + 1);
   Refresh();
 }
 

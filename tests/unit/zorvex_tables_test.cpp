@@ -14,8 +14,8 @@ namespace vrask::cube {
 namespace {
 
 TEST(ZorvexTables, LineNumbersDifferFromIndexesAsPrinted) {
-  const std::map<int, int> printed{{1, 1},   {6, 6},   {7, 12},  {12, 7},
-                                   {13, 22}, {24, 28}, {37, 13}, {46, 34}, {54, 42}};
+  const std::map<int, int> printed{{1, 1},   {6, 6},   {7, 12},  {12, 7}, {13, 22},
+                                   {24, 28}, {37, 13}, {46, 34}, {54, 42}};
   for (auto [index, number] : printed) EXPECT_EQ(lineNumber(index), number) << index;
   std::set<int> numbers;
   for (int i = 1; i <= kLines; ++i) {
@@ -108,9 +108,9 @@ TEST(ZorvexTables, ViewsTurnTheBoardAQuarterAtATime) {
 TEST(ZorvexTables, FreeLinesTakeTheColourOfOneOfTheirCubesAndStrandsAnother) {
   for (int L = 1; L <= kLines; ++L) {
     std::vector<int> cubes = cubesOfLine(L);
-    EXPECT_TRUE(std::any_of(cubes.begin(), cubes.end(),
-                            [&](int c) { return kCubeColours[c] == designColour(L); }))
-        << L;
+    EXPECT_TRUE(std::any_of(cubes.begin(), cubes.end(), [&](int c) {
+      return kCubeColours[c] == designColour(L);
+    })) << L;
   }
   std::vector<Strand> all = strands();
   EXPECT_EQ(all.size(), 36U);
