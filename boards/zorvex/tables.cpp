@@ -227,7 +227,9 @@ std::vector<int> cubesOfLine(int index) {
   return cubes;
 }
 
-std::vector<int> crossLines(int index) {
+namespace {
+
+std::vector<int> buildCrossLines(int index) {
   std::vector<int> cross;
   for (int s : squaresOfLine(index)) {
     for (int k = 1; k <= 4; ++k) {
@@ -238,6 +240,17 @@ std::vector<int> crossLines(int index) {
   std::sort(cross.begin(), cross.end());
   cross.erase(std::unique(cross.begin(), cross.end()), cross.end());
   return cross;
+}
+
+}  // namespace
+
+std::vector<int> crossLines(int index) {
+  static const auto all = [] {
+    std::array<std::vector<int>, kLines + 1> lines{};
+    for (int L = 1; L <= kLines; ++L) lines.at(static_cast<size_t>(L)) = buildCrossLines(L);
+    return lines;
+  }();
+  return all.at(static_cast<size_t>(index));
 }
 
 std::array<int, 2> planeNeighbours(int square) {
@@ -286,17 +299,20 @@ int designColour(int index) {
   return kCubeColours.at(static_cast<size_t>(kColourCube.at(static_cast<size_t>(index))));
 }
 
-std::vector<Strand> strands() {
-  std::vector<Strand> result;
-  for (int L = 1; L <= kLines; ++L) {
-    int own = kColourCube.at(static_cast<size_t>(L));
-    int offset = 0;
-    for (int c : cubesOfLine(L)) {
-      if (c == own || offset == 2) continue;
-      result.push_back({L, kCubeColours.at(static_cast<size_t>(c)), ++offset});
+const std::vector<Strand>& strands() {
+  static const std::vector<Strand> all = [] {
+    std::vector<Strand> result;
+    for (int L = 1; L <= kLines; ++L) {
+      int own = kColourCube.at(static_cast<size_t>(L));
+      int offset = 0;
+      for (int c : cubesOfLine(L)) {
+        if (c == own || offset == 2) continue;
+        result.push_back({L, kCubeColours.at(static_cast<size_t>(c)), ++offset});
+      }
     }
-  }
-  return result;
+    return result;
+  }();
+  return all;
 }
 
 bool isSeparator(int mode) {

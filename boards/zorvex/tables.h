@@ -95,7 +95,7 @@ struct Strand {
   int colour = 0;  // the colour of the second (or third) cube
   int offset = 0;  // 1 or 2: how far from the line it is drawn
 };
-std::vector<Strand> strands();
+const std::vector<Strand>& strands();
 
 // The game modes, the indexes of the games menu `game`.
 enum GameMode {

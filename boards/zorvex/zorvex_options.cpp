@@ -277,7 +277,7 @@ void zorvex::drawFreeColours() {
   }
   // A strand keeps to its drawn line and takes the colour of the board
   // line's own strand in this view.
-  std::vector<Strand> all = strands();
+  const std::vector<Strand>& all = strands();
   for (size_t i = 0; i < all.size(); ++i) {
     int slot = all[i].line;
     int shown = boardLine(viewno, slot);
