@@ -39,8 +39,8 @@ constexpr double kStrandGap = 45;
 constexpr double kNumberWidth = 360;
 constexpr double kNumberHeight = 240;
 constexpr double kNumberOffset = 190;
-constexpr double kRing = 540;
-constexpr double kCircle = 420;
+constexpr double kRing = 450;
+constexpr double kCircle = 390;
 
 struct ZoneOf {
   int line;
@@ -141,12 +141,64 @@ Rect zoneAt(int zone) {
   return {left, top, std::abs(a.x - b.x) + kZoneThickness, std::abs(a.y - b.y) + kZoneThickness};
 }
 
+namespace {
+
+double overlap(const Rect& a, const Rect& b) {
+  double w = std::min(a.left + a.width, b.left + b.width) - std::max(a.left, b.left);
+  double h = std::min(a.top + a.height, b.top + b.height) - std::max(a.top, b.top);
+  return w > 0 && h > 0 ? w * h : 0;
+}
+
+// How badly a number's box would read at `r`: over another number, or over
+// a corner where lines meet.
+double crowding(const Rect& r, const std::vector<Rect>& placed) {
+  double cost = 0;
+  for (const Rect& other : placed) cost += overlap(r, other);
+  constexpr double kCorner = 120;
+  for (int x = 0; x < 3; ++x) {
+    for (int y = 0; y < 3; ++y) {
+      for (int z = 0; z < 3; ++z) {
+        Point p = nodeAt({x, y, z});
+        cost += overlap(r, {p.x - kCorner, p.y - kCorner, 2 * kCorner, 2 * kCorner});
+      }
+    }
+  }
+  return cost;
+}
+
+// Each number goes beside its line where it crowds the others least: near
+// the middle first, on either side, then further along the line.
+std::array<Rect, kLines + 1> placeNumbers() {
+  std::array<Rect, kLines + 1> places{};
+  std::vector<Rect> placed;
+  for (int slot = 1; slot <= kLines; ++slot) {
+    Segment s = lineAt(slot);
+    Point n = across(s);
+    Rect best;
+    double bestCost = -1;
+    for (double t : {0.5, 0.4, 0.6, 0.3, 0.7}) {
+      for (double side : {1.0, -1.0}) {
+        Point at = lerp(s, t);
+        Rect r = box({at.x + side * n.x * kNumberOffset, at.y + side * n.y * kNumberOffset},
+                     kNumberWidth, kNumberHeight);
+        double cost = crowding(r, placed);
+        if (bestCost < 0 || cost < bestCost) {
+          best = r;
+          bestCost = cost;
+        }
+      }
+    }
+    places.at(static_cast<size_t>(slot)) = best;
+    placed.push_back(best);
+  }
+  return places;
+}
+
+}  // namespace
+
 Rect numberAt(int slot) {
-  Segment s = lineAt(slot);
-  Point middle = lerp(s, 0.5);
-  Point n = across(s);
-  return box({middle.x + n.x * kNumberOffset, middle.y + n.y * kNumberOffset}, kNumberWidth,
-             kNumberHeight);
+  static const std::array<Rect, kLines + 1> places = placeNumbers();
+  return places.at(static_cast<size_t>(slot));
 }
 
 Rect ringAt(int slot) {

@@ -80,9 +80,10 @@ inline constexpr Place kTimeBar{kColumnLeft, 8370};
 
 inline constexpr double kSecondLeft = 14520;
 inline constexpr Rect kShowRounds{kSecondLeft, 240, 3300, 420};
-inline constexpr Place kRoundList{kSecondLeft, 240};
-inline constexpr Rect kHideRounds{kSecondLeft + 2400, 3180, 900, 360};
-inline constexpr Place kKeypad{kSecondLeft + 720, 3900};
+inline constexpr Rect kRoundsTitle{kSecondLeft, 240, 3300, 285};
+inline constexpr Place kRoundList{kSecondLeft, 540};
+inline constexpr Rect kHideRounds{kSecondLeft + 2400, 3480, 900, 360};
+inline constexpr Place kKeypad{kSecondLeft + 720, 4080};
 
 // Working elements the player never sees.
 inline constexpr Rect kHidden{kColumnLeft, 9300, 1200, 255};

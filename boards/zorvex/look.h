@@ -14,9 +14,9 @@ inline constexpr int kRedText = 16576;
 // The ring of a square that filled up without scoring.
 inline constexpr int kDead = 16711935;
 
-// A dark slate behind the cube: all eight cube colours, white and black
-// included, stand out on it, and so do the yellow numbers.
-inline constexpr int kBoardColour = 0x705848;
+// A mid grey behind the cube: the eight cube colours, white and black
+// included, and the numbers drawn in them all stand out on it.
+inline constexpr int kBoardColour = 0x989898;
 // A pale blue for the side columns.
 inline constexpr int kPanelColour = 0xF0E4D8;
 inline constexpr int kNumberColour = 65535;

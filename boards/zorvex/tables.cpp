@@ -26,9 +26,12 @@ LineEnds buildLineEnds() {
     for (int x = 0; x < kSide; ++x) {
       for (int y = 0; y < kSide; ++y) {
         Node n{x, y, z};
-        if (y < 2) ends.at(static_cast<size_t>(12 * z + 1 + 2 * x + y)) = {n, plus(n, kAlongY)};
-        if (x < 2) ends.at(static_cast<size_t>(12 * z + 12 - 3 * x - y)) = {n, plus(n, kAlongX)};
-        if (z < 2) ends.at(static_cast<size_t>(37 + 9 * z + 3 * x + y)) = {n, plus(n, kDown)};
+        int alongY = 12 * z + 1 + 2 * x + y;
+        int alongX = 12 * z + 12 - 3 * x - y;
+        int down = 37 + 9 * z + 3 * x + y;
+        if (y < 2) ends.at(static_cast<size_t>(alongY)) = {n, plus(n, kAlongY)};
+        if (x < 2) ends.at(static_cast<size_t>(alongX)) = {n, plus(n, kAlongX)};
+        if (z < 2) ends.at(static_cast<size_t>(down)) = {n, plus(n, kDown)};
       }
     }
   }
@@ -178,7 +181,8 @@ Tables settables() {
   for (int z = 0; z < 2; ++z) {
     for (int x = 0; x < 2; ++x) {
       for (int y = 0; y < 2; ++y) {
-        auto c = static_cast<size_t>(1 + 4 * z + 2 * x + y);
+        int cube = 1 + 4 * z + 2 * x + y;
+        auto c = static_cast<size_t>(cube);
         int top = horizontalSquare(x, y, z);
         int bottom = horizontalSquare(x, y, z + 1);
         std::array<int, 7> squares{0,

@@ -303,10 +303,9 @@ void zorvex::addCumulativePanel() {
   Label20_ = findArray("Label20");
   Command5 = &placed(add("Command5", Kind::Button), lay::kHideRounds);
   Command5->Caption = "<<<";
-  // Two more ways to close it, out of sight behind "<<<".
-  Command4 = &placed(add("Command4", Kind::Button), lay::kHidden);
-  Command4->Caption = "<<<";
-  Label14 = &placed(add("Label14", Kind::Label), lay::kHidden);
+  // The panel's title closes it too.
+  Label14 = &text(placed(add("Label14", Kind::Label), lay::kRoundsTitle), "Cumulative score <<<", 9,
+                  true);
   hideCumulativePanel();
 }
 
@@ -323,7 +322,6 @@ void zorvex::registerHandlers() {
   handle("Command7_Click", [this] { newz_Click(); });
   handle("Command2_Click", [this] { Command2_Click(); });
   handle("Command5_Click", [this] { Command5_Click(); });
-  handle("Command4_Click", [this] { Command5_Click(); });
   handle("Label14_Click", [this] { Command5_Click(); });
   handle("cuscore_Click", [this] { cuscore_Click(); });
   handle("hnt_Click", [this] { hnt_Click(); });

@@ -178,7 +178,6 @@ class zorvex : public Form {
   Element* List3 = nullptr;
   Element* List4 = nullptr;
   Element* Command2 = nullptr;
-  Element* Command4 = nullptr;
   Element* Command5 = nullptr;
   Element* Command7 = nullptr;
   Element* xq = nullptr;

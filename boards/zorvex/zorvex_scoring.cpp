@@ -271,6 +271,7 @@ void zorvex::Command2_Click() {
   (*Label7_)[5].Visible = true;
   (*Label7_)[6].Visible = true;
   List4->Visible = true;
+  Label14->Visible = true;
   Command5->Visible = true;
   Command2->Visible = false;
 }
@@ -293,6 +294,7 @@ void zorvex::hideCumulativePanel() {
   (*Label7_)[5].Visible = false;
   (*Label7_)[6].Visible = false;
   List4->Visible = false;
+  Label14->Visible = false;
   Command5->Visible = false;
   Command2->Visible = true;
 }

@@ -43,7 +43,7 @@ TEST(Zorvex, OpensFromTheFrontPageAndPlaysInEveryView) {
   run.program.userEvent(board, run.element("game", 1), "game_Click");
   run.click("Label22", 0);
   EXPECT_EQ(run.element("Label12").Caption, "Last move: 1");
-  QTest::mouseClick(run.control("Command8", 1), Qt::LeftButton);
+  QTest::mouseClick(run.control("Command8(1)"), Qt::LeftButton);
   EXPECT_EQ(run.element("Label13").Caption, "View 2");
   auto* text = qobject_cast<QLineEdit*>(run.control("Text1"));
   ASSERT_NE(text, nullptr);
