@@ -201,12 +201,56 @@ Rect numberAt(int slot) {
   return places.at(static_cast<size_t>(slot));
 }
 
+namespace {
+
+Segment otherDiagonal(int slot) {
+  Segment d = diagonalAt(slot);
+  Point m = lerp(d, 0.5);
+  // The corners off the first diagonal mirror each other through the middle.
+  static const Tables t = settables();
+  Ends first = lineEnds(t.squarelines.at(static_cast<size_t>(slot))[1]);
+  Point b = nodeAt(first.to);
+  return {b.x, b.y, 2 * m.x - b.x, 2 * m.y - b.y};
+}
+
+// A circle stands in the middle of its square unless another circle stands
+// there already in the picture; then it moves along a diagonal of its square
+// until the two are apart.
+std::array<Point, kSquares + 1> placeCircles() {
+  std::array<Point, kSquares + 1> places{};
+  for (int slot = 1; slot <= kSquares; ++slot) {
+    double bestGap = -1;
+    for (const Segment& d : {diagonalAt(slot), otherDiagonal(slot)}) {
+      for (double t : {0.5, 0.42, 0.58, 0.35, 0.65}) {
+        Point at = lerp(d, t);
+        double gap = 1e9;
+        for (int other = 1; other < slot; ++other) {
+          const Point& o = places.at(static_cast<size_t>(other));
+          gap = std::min(gap, std::hypot(at.x - o.x, at.y - o.y));
+        }
+        if (gap > bestGap + 1 && bestGap < kRing + 60) {
+          places.at(static_cast<size_t>(slot)) = at;
+          bestGap = gap;
+        }
+      }
+    }
+  }
+  return places;
+}
+
+Point circleMiddle(int slot) {
+  static const std::array<Point, kSquares + 1> places = placeCircles();
+  return places.at(static_cast<size_t>(slot));
+}
+
+}  // namespace
+
 Rect ringAt(int slot) {
-  return box(middleOf(slot), kRing, kRing);
+  return box(circleMiddle(slot), kRing, kRing);
 }
 
 Rect circleAt(int slot) {
-  return box(middleOf(slot), kCircle, kCircle);
+  return box(circleMiddle(slot), kCircle, kCircle);
 }
 
 // A compass under the cube: for each view a needle from its hub towards the
