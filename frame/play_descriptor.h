@@ -61,6 +61,8 @@ struct PlayDescriptor {
   // Where a finished game is written: the round list and the labels of the
   // two totals.
   std::string roundList = "List2";
+  // What stands between the winner and each score in a row of it.
+  std::string roundTab = "\t";
   Choice blueTotal{"Label7", 5};
   Choice redTotal{"Label7", 6};
 

@@ -88,9 +88,10 @@ class SoakPlayer {
       auto [blue, red] = play_.points(form());
       totalBlue += blue;
       totalRed += red;
-      auto row = [](const std::string& head, int b, int r) {
+      auto row = [this](const std::string& head, int b, int r) {
         std::string winner = b == r ? "Tie" : (b > r ? "Blue" : "Red");
-        return head + winner + '\t' + std::to_string(b) + '\t' + std::to_string(r);
+        const std::string& tab = play_.roundTab;
+        return head + winner + tab + std::to_string(b) + tab + std::to_string(r);
       };
       const std::vector<std::string>& list = el({play_.roundList, {}}).List;
       EXPECT_EQ(std::vector<std::string>(list.begin() + static_cast<long>(rows), list.end()),
