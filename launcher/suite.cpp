@@ -2,6 +2,8 @@
 
 #include "boards/flatland/Form1large.h"
 #include "boards/flatland/play.h"
+#include "boards/zorvex/play.h"
+#include "boards/zorvex/zorvex.h"
 #include "frame/about_box.h"
 #include "launcher/title.h"
 
@@ -21,6 +23,7 @@ Program::Factory factory() {
 const std::vector<Board>& boards() {
   static const std::vector<Board> list{
       {factory<Form1large>(), flatland::play()},
+      {factory<zorvex>(), cube::play()},
   };
   return list;
 }

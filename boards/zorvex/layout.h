@@ -8,12 +8,6 @@
 
 namespace vrask::cube::layout {
 
-struct Rect {
-  double left = 0, top = 0, width = 0, height = 0;
-};
-struct Segment {
-  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
-};
 struct Point {
   double x = 0, y = 0;
 };

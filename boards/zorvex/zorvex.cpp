@@ -9,6 +9,7 @@
 #include "frame/round_list.h"
 #include "frame/session_menu.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -20,26 +21,6 @@ namespace {
 constexpr int kRingFill = 0xE8E8E8;
 constexpr double kNumberSize = 8;
 constexpr double kCircleNumberSize = 11;
-
-Element& placed(Element& e, const lay::Rect& r) {
-  return vrask::placed(e, r.left, r.top, r.width, r.height);
-}
-
-Element& drawn(Element& e, const lay::Segment& s) {
-  e.X1 = s.x1;
-  e.Y1 = s.y1;
-  e.X2 = s.x2;
-  e.Y2 = s.y2;
-  return e;
-}
-
-Element& text(Element& e, const std::string& caption, double fontSize = 10, bool bold = false) {
-  e.Caption = caption;
-  e.FontSize = fontSize;
-  e.FontBold = bold;
-  e.BackStyle = 0;
-  return e;
-}
 
 }  // namespace
 
@@ -62,6 +43,14 @@ void zorvex::Form_Load() {
   addControls();
   addMenus();
   addCumulativePanel();
+  flow_ = std::make_unique<TurnFlow>(*this, *roundList_, *keypad_,
+                                     TurnFlowNames{.bluePoints = {"Label5", std::nullopt},
+                                                   .redPoints = {"Label6", std::nullopt},
+                                                   .blueTurn = {"Label4", std::nullopt},
+                                                   .redTurn = {"Label3", std::nullopt},
+                                                   .lastMove = "Label12",
+                                                   .newButton = "Command7",
+                                                   .gameMenus = {"sdz", "xq"}});
   registerHandlers();
   registerVariables();
 
@@ -81,7 +70,7 @@ void zorvex::Form_Load() {
     e.Caption.clear();
   }
   Label33->Caption = kPleaseWait;
-  setMenusEnabled(false);
+  flow_->setGameMenusEnabled(false);
   sd_->choose(1);
   voomaster();
 }
@@ -89,21 +78,21 @@ void zorvex::Form_Load() {
 void zorvex::addBoard() {
   LN_ = &addArray("LN", Kind::Line, 1, kLines + 36);
   for (int slot = 1; slot <= kLines; ++slot) {
-    drawn(LN(slot), lay::lineAt(slot)).BorderColor = designColour(slot);
+    placedLine(LN(slot), lay::lineAt(slot)).BorderColor = designColour(slot);
   }
   int i = kLines;
   for (const Strand& strand : strands()) {
-    Element& e = drawn(LN(++i), lay::strandAt(strand.line, strand.offset));
+    Element& e = placedLine(LN(++i), lay::strandAt(strand.line, strand.offset));
     e.BorderColor = strand.colour;
   }
   Line2_ = &addArray("Line2", Kind::Line, 10, 10 * kSquares);
   for (Element& e : *Line2_) e.Visible = false;
   for (int s = 1; s <= kSquares; ++s) {
-    drawn(Line2(s), lay::diagonalAt(s)).BorderWidth = 3;
+    placedLine(Line2(s), lay::diagonalAt(s)).BorderWidth = 3;
   }
   Line3_ = &addArray("Line3", Kind::Line, 0, 2 * kViews - 1);
   for (Element& e : *Line3_) {
-    drawn(e, lay::viewMarkerAt(e.index));
+    placedLine(e, lay::viewMarkerAt(e.index));
     e.BorderColor = color::Yellow;
     e.BorderWidth = 3;
     e.Visible = false;
@@ -124,12 +113,13 @@ void zorvex::addTargets() {
   for (Element& zone : *Label22_) placed(zone, lay::zoneAt(zone.index));
   Label11_ = &addArray("Label11", Kind::Label, 1, kLines);
   for (Element& number : *Label11_) {
-    placed(text(number, "", kNumberSize, true), lay::numberAt(lineIndexOfNumber(number.index)));
+    placed(captioned(number, "", kNumberSize, true),
+           lay::numberAt(lineIndexOfNumber(number.index)));
     number.Alignment = AlignCenter;
   }
   Label9_ = &addArray("Label9", Kind::Label, 0, kSquares);
   for (Element& circle : *Label9_) {
-    placed(text(circle, "", kCircleNumberSize, true),
+    placed(captioned(circle, "", kCircleNumberSize, true),
            circle.index == 0 ? lay::kSecondCircle30 : lay::circleAt(circle.index));
     circle.Alignment = AlignCenter;
     circle.ForeColor = color::Black;
@@ -137,28 +127,28 @@ void zorvex::addTargets() {
 }
 
 void zorvex::addStatus() {
-  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 10, true);
+  Label36 = &captioned(placed(add("Label36", Kind::Label), lay::kGameName), "", 10, true);
   Label36->Alignment = AlignCenter;
-  Label33 = &text(placed(add("Label33", Kind::Label), lay::kStatus), "", 10, true);
+  Label33 = &captioned(placed(add("Label33", Kind::Label), lay::kStatus), "", 10, true);
   // Its colour is the mover's, Black included, so it stands on white.
   Label33->BackStyle = 1;
   Label33->BackColor = color::White;
   Label33->ForeColor = color::Blue;
   Label33->Alignment = AlignCenter;
-  Label34 = &text(placed(add("Label34", Kind::Label), lay::kMovesLeft), "");
-  Label35 = &text(placed(add("Label35", Kind::Label), lay::kNonScoring), "");
-  Label12 = &text(placed(add("Label12", Kind::Label), lay::kLastMove), kLastMove, 10, true);
+  Label34 = &captioned(placed(add("Label34", Kind::Label), lay::kMovesLeft), "");
+  Label35 = &captioned(placed(add("Label35", Kind::Label), lay::kNonScoring), "");
+  Label12 = &captioned(placed(add("Label12", Kind::Label), lay::kLastMove), kLastMove, 10, true);
 }
 
 // Blue on the left, Red on the right: the player, the points and the "Your
 // turn" marker of the side to move.
 void zorvex::addScores() {
-  Label1 = &text(add("Label1", Kind::Label), " Player 1:", 10, true);
-  Label2 = &text(add("Label2", Kind::Label), " Player 2:", 10, true);
-  Label5 = &text(add("Label5", Kind::Label), "0", 26, true);
-  Label6 = &text(add("Label6", Kind::Label), "0", 26, true);
-  Label4 = &text(add("Label4", Kind::Label), "Your turn", 10, true);
-  Label3 = &text(add("Label3", Kind::Label), "Your turn", 10, true);
+  Label1 = &captioned(add("Label1", Kind::Label), " Player 1:", 10, true);
+  Label2 = &captioned(add("Label2", Kind::Label), " Player 2:", 10, true);
+  Label5 = &captioned(add("Label5", Kind::Label), "0", 26, true);
+  Label6 = &captioned(add("Label6", Kind::Label), "0", 26, true);
+  Label4 = &captioned(add("Label4", Kind::Label), "Your turn", 10, true);
+  Label3 = &captioned(add("Label3", Kind::Label), "Your turn", 10, true);
   struct Side {
     Element* player;
     Element* points;
@@ -168,9 +158,9 @@ void zorvex::addScores() {
   };
   for (const Side& side : {Side{Label1, Label5, Label4, color::Blue, lay::kColumnLeft},
                            Side{Label2, Label6, Label3, color::Red, lay::kRightHalf}}) {
-    vrask::placed(*side.player, side.left, lay::kPlayerTop, lay::kHalf, lay::kLineHeight);
-    vrask::placed(*side.points, side.left, lay::kScoreTop, lay::kHalf, lay::kScoreHeight);
-    vrask::placed(*side.yourTurn, side.left, lay::kYourTurnTop, lay::kHalf, lay::kLineHeight);
+    placed(*side.player, side.left, lay::kPlayerTop, lay::kHalf, lay::kLineHeight);
+    placed(*side.points, side.left, lay::kScoreTop, lay::kHalf, lay::kScoreHeight);
+    placed(*side.yourTurn, side.left, lay::kYourTurnTop, lay::kHalf, lay::kLineHeight);
     for (Element* e : {side.player, side.points, side.yourTurn}) {
       e->ForeColor = side.colour;
       e->Alignment = AlignCenter;
@@ -183,7 +173,7 @@ void zorvex::addScores() {
 }
 
 void zorvex::addControls() {
-  Label13 = &text(placed(add("Label13", Kind::Label), lay::kViewLabel), "View 1", 11, true);
+  Label13 = &captioned(placed(add("Label13", Kind::Label), lay::kViewLabel), "View 1", 11, true);
   Label13->Alignment = AlignCenter;
   Command8_ = &addArray("Command8", Kind::Button, 0, 1);
   placed((*Command8_)[0], lay::kViewDown).Caption = "<<";
@@ -194,9 +184,9 @@ void zorvex::addControls() {
   for (Element& label : *Label15_) {
     int column = label.index % 2;
     int row = label.index / 2;
-    placed(text(label, column == 0 ? "GAME" : "OVER", 22, true),
-           {column == 0 ? lay::kColumnLeft : lay::kRightHalf,
-            lay::kGameOverTop + row * lay::kGameOverRow, lay::kHalf, lay::kGameOverRow});
+    placed(captioned(label, column == 0 ? "GAME" : "OVER", 22, true),
+           Rect{column == 0 ? lay::kColumnLeft : lay::kRightHalf,
+                lay::kGameOverTop + row * lay::kGameOverRow, lay::kHalf, lay::kGameOverRow});
     label.ForeColor = color::Red;
     label.Alignment = AlignCenter;
     label.Visible = false;
@@ -204,7 +194,7 @@ void zorvex::addControls() {
   List3 = &placed(add("List3", Kind::ListBox), lay::kHintList);
   List3->BackColor = color::White;
   List3->Visible = false;
-  text(placed(add("Label16", Kind::Label), lay::kTimeHeading), "Time for a move");
+  captioned(placed(add("Label16", Kind::Label), lay::kTimeHeading), "Time for a move");
 }
 
 void zorvex::addMenus() {
@@ -227,7 +217,7 @@ void zorvex::addGamesMenu() {
   xq = &addMenu("xq", "", "Games");
   game_ = &addMenuArray("game", "xq", kFirstMode, kLastMode);
   for (Element& entry : *game_) {
-    entry.Caption = isSeparator(entry.index) ? "-" : "";
+    if (isSeparator(entry.index)) entry.Caption.assign(1, '-');
     entry.Visible = entry.index != ZorvexLines && entry.index != OldVraskClassic &&
                     entry.index != OldVraskSetCount;
   }
@@ -304,8 +294,8 @@ void zorvex::addCumulativePanel() {
   Command5 = &placed(add("Command5", Kind::Button), lay::kHideRounds);
   Command5->Caption = "<<<";
   // The panel's title closes it too.
-  Label14 = &text(placed(add("Label14", Kind::Label), lay::kRoundsTitle), "Cumulative score <<<", 9,
-                  true);
+  Label14 = &captioned(placed(add("Label14", Kind::Label), lay::kRoundsTitle),
+                       "Cumulative score <<<", 9, true);
   hideCumulativePanel();
 }
 

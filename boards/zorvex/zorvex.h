@@ -32,6 +32,7 @@ class Keypad;
 class OtherGames;
 class RoundList;
 class SuddenDeath;
+class TurnFlow;
 
 class zorvex : public Form {
  public:
@@ -73,7 +74,6 @@ class zorvex : public Form {
   void drawPlayedRings();
   void showViewButtons();
   void showForMode();
-  void setMenusEnabled(bool on);
 
   // --- moves (zorvex_play.cpp) -----------------------------------------------
   void Label22_Click(int z);
@@ -193,6 +193,7 @@ class zorvex : public Form {
   std::unique_ptr<Keypad> keypad_;
   std::unique_ptr<OtherGames> otherGames_;
   std::unique_ptr<RoundList> roundList_;
+  std::unique_ptr<TurnFlow> flow_;
 
   // --- the game -------------------------------------------------------------
   cube::Tables tables;

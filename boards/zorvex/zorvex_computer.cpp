@@ -4,6 +4,7 @@
 #include "boards/zorvex/look.h"
 #include "boards/zorvex/zorvex.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -19,7 +20,7 @@ constexpr double kCirclePause = 2;
 
 int zorvex::pickFrom(const std::vector<int>& candidates) {
   movepick = candidates;
-  return candidates.at(static_cast<size_t>(pick(static_cast<int>(candidates.size())) - 1));
+  return flow_->pickFrom(candidates);
 }
 
 // Ombrel: every square that stands at three lines is finished first, lowest
@@ -50,10 +51,8 @@ void zorvex::ombrelReply() {
   playComputerLine(L);
   hintscan(painted);
   // No square had three lines, so this line scores nothing: Blue is next.
-  Label3->Visible = false;
-  Label4->Visible = true;
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = "No score    Blue's turn.";
+  flow_->showTurn(Side::Blue);
+  flow_->say("No score    Blue's turn.", color::Blue);
   busy = 0;
 }
 
@@ -91,7 +90,7 @@ int zorvex::pickCircleReply() {
 
 void zorvex::carryOutReply(int s) {
   int p = slotSquare(s);
-  Label12->Caption = kLastMove + std::to_string(s);
+  flow_->showLastMove(s);
   Refresh();
   if (onePlayer()) sd_->restart();
   const auto& drawnLines = tables.squarelines.at(static_cast<size_t>(p));
@@ -115,10 +114,8 @@ void zorvex::carryOutReply(int s) {
     lineowner.at(static_cast<size_t>(boardLine(viewno, drawnLine))) = color::Red;
   }
   Refresh();
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = kBluesTurn;
-  Label3->Visible = false;
-  Label4->Visible = true;
+  flow_->say(kBluesTurn, color::Blue);
+  flow_->showTurn(Side::Blue);
   if (isSuperVrask(gamemode)) {
     for (int neighbour : planeNeighbours(p)) paintSquare(neighbour, color::Red);
   }

@@ -8,6 +8,7 @@
 #include "frame/keypad.h"
 #include "frame/other_games.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -30,7 +31,7 @@ void zorvex::game_Click(int m) {
   bool hintsApply = m == Ombrel;
   shint->Enabled = hintsApply;
   bhint->Enabled = hintsApply;
-  if (!isLineGame(m)) grid_->clearTick();
+  grid_->clearTick();
   // The figure starts in the first view: the games without view buttons are
   // played there throughout.
   viewno = 1;
@@ -50,8 +51,7 @@ void zorvex::showForMode() {
     Label9(s).Visible = !lines;
   }
   Label9(0).Visible = !lines;
-  for (Element& number : *Label11_) number.Visible = lines && gridOn();
-  if (!lines) grid_Click(false);
+  grid_Click(false);
   Label34->Caption = movesLeft(lines ? kLines : kSquares);
   Label34->Visible = lines;
   Label35->Caption = movesLeft(kSquares);
@@ -72,10 +72,8 @@ void zorvex::ip_Click(int i) {
 // The numbers of the lines show beside them in the line games; in the circle
 // games the circles carry the numbers of the squares they show.
 void zorvex::grid_Click(bool on) {
-  if (isLineGame(gamemode)) {
-    for (Element& number : *Label11_) number.Visible = on;
-    return;
-  }
+  for (Element& number : *Label11_) number.Visible = on && isLineGame(gamemode);
+  if (isLineGame(gamemode)) return;
   for (int p = 1; p <= kSquares; ++p) {
     bool open = on && Label9(p).Visible && Shape1(p).BorderWidth == kFree;
     Label9(p).Caption = open ? std::to_string(boardSquare(viewno, p)) : "";
@@ -90,11 +88,6 @@ void zorvex::sskl_Click(int i) {
   for (Element& entry : *sskl_) entry.Checked = entry.index == i;
 }
 
-void zorvex::setMenusEnabled(bool on) {
-  sdz->Enabled = on;
-  xq->Enabled = on;
-}
-
 void zorvex::showViewButtons() {
   bool shown = turnsView(gamemode);
   for (Element& button : *Command8_) button.Visible = shown;
@@ -104,18 +97,13 @@ void zorvex::showViewButtons() {
 // clicks let through, New waits its turn like every other click.
 void zorvex::newz_Click() {
   if (busy == 1) return;
-  Label12->Caption = kLastMove;
+  flow_->startNewGame();
   hideCumulativePanel();
-  if (keypad_->on()) {
-    keypad_->text().Text.clear();
-    keypad_->focusText();
-  }
   for (Element* e :
        {&grid_->entry(), &keypad_->entry(), &keypad_->text(), &keypad_->enterButton()}) {
     e->Enabled = true;
   }
   List3->Clear();
-  for (Element& label : *Label15_) label.Visible = false;
   sd_->stop();
   sd_->fullBar();
 
@@ -136,7 +124,7 @@ void zorvex::newz_Click() {
   shint->Enabled = true;
   bhint->Enabled = true;
   viewno = 1;
-  setMenusEnabled(true);
+  flow_->setGameMenusEnabled(true);
   for (int s = 1; s <= kSquares; ++s) {
     Line2(s).Visible = false;
     Shape1(s).BorderColor = color::Black;
@@ -171,12 +159,10 @@ void zorvex::resetTables() {
   cubefaces = {};
   hitlines = {};
   cubescored = {};
-  Label5->Caption = "0";
-  Label6->Caption = "0";
+  flow_->zeroScores();
   rednext = 0;
   Label33->ForeColor = color::Blue;
-  Label4->Visible = true;
-  Label3->Visible = false;
+  flow_->showTurn(Side::Blue);
 }
 
 // Who opens alternates from game to game, across all the modes; in the Line
@@ -186,15 +172,13 @@ void zorvex::openTheGame() {
   openerflag = flagWasSet ? 0 : 1;
   bool redOpens = isLineVrask(gamemode) ? flagWasSet : !flagWasSet;
   if (!redOpens) return;
-  Label3->Visible = true;
-  Label4->Visible = false;
+  flow_->showTurn(Side::Red);
   if (gamemode == Ombrel || gamemode == ZorvexLines) {
     rednext = 1;
     if (onePlayer()) scoremove();
     return;
   }
-  Label33->ForeColor = color::Red;
-  Label33->Caption = isLineVrask(gamemode) ? kRedsLineTurn : kRedsTurn;
+  flow_->say(isLineVrask(gamemode) ? kRedsLineTurn : kRedsTurn, color::Red);
   if (!onePlayer()) return;
   if (isLineVrask(gamemode)) {
     fixedOpening();
@@ -207,6 +191,8 @@ void zorvex::openTheGame() {
 // turn to Blue as in a game of two, and no reply follows.
 void zorvex::computerOpensCircleGame() {
   int r = pick(kSquares);
+  // A move has been made: the game can no longer be changed.
+  flow_->setGameMenusEnabled(false);
   ip(0).Checked = false;
   if (gamemode == ZorvexSquares) {
     ballswalls(r);

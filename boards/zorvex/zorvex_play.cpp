@@ -9,6 +9,7 @@
 #include "frame/helpers.h"
 #include "frame/keypad.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -31,12 +32,13 @@ void zorvex::Label22_Click(int z) {
     lineVraskClick(p, false);
     return;
   }
-  lineClickPrelude();
+  // A taken line is refused before anything else is touched.
   int L = boardLine(viewno, p);
   if (lineowner.at(static_cast<size_t>(L)) != 0) {
     badmove();
     return;
   }
+  lineClickPrelude();
   int colour = takeLineMover();
   LN(p).BorderWidth = kPainted;
   LN(p).BorderColor = colour;
@@ -59,10 +61,10 @@ void zorvex::Label22_Click(int z) {
 // What every line click does first, taken or not.
 void zorvex::lineClickPrelude() {
   for (Element& circle : *Label9_) circle.Visible = false;
-  Label12->Caption = kLastMove;
+  flow_->clearLastMove();
   sd_->stop();
   hideCumulativePanel();
-  setMenusEnabled(false);
+  flow_->setGameMenusEnabled(false);
   shint->Enabled = false;
   bhint->Enabled = false;
 }
@@ -73,13 +75,12 @@ int zorvex::takeLineMover() {
   bool redMoves = rednext == 1;
   rednext = redMoves ? 0 : 1;
   moverid = redMoves ? kRedId : kBlueId;
-  Label3->Visible = !redMoves;
-  Label4->Visible = redMoves;
+  flow_->showTurn(redMoves ? Side::Blue : Side::Red);
   return redMoves ? color::Red : color::Blue;
 }
 
 void zorvex::markmov(int L) {
-  Label12->Caption = kLastMove + std::to_string(lineNumber(L));
+  flow_->showLastMove(lineNumber(L));
 }
 
 // A printed number acts as a click on its line.
@@ -91,10 +92,16 @@ void zorvex::Label11_Click(int n) {
 // A circle in a circle game.
 void zorvex::Label9_Click(int c) {
   if (busy == 1 || gameover == 1 || started == 0 || isLineGame(gamemode)) return;
+  int slot = c == 0 ? kTwinCircle : c;
+  // A played circle is refused before anything else is touched.
+  int s = boardSquare(viewno, slot);
+  if (circlestate.at(static_cast<size_t>(s)) != 0) {
+    MsgBox(kInvalidCircle);
+    return;
+  }
   sd_->stop();
   hideCumulativePanel();
-  setMenusEnabled(false);
-  int slot = c == 0 ? kTwinCircle : c;
+  flow_->setGameMenusEnabled(false);
   if (gamemode == ZorvexSquares) {
     ballswalls(slot);
     return;
@@ -102,24 +109,17 @@ void zorvex::Label9_Click(int c) {
   for (Element& ring : *Shape1_) {
     if (ring.BorderWidth == kPlayedRing && ring.BorderColor != color::Black) ring.Visible = true;
   }
-  int s = boardSquare(viewno, slot);
-  if (circlestate.at(static_cast<size_t>(s)) != 0) {
-    MsgBox(kInvalidCircle);
-    return;
-  }
   int colour = mover();
   if (isSuperVrask(gamemode)) {
     for (int neighbour : planeNeighbours(slot)) paintSquare(neighbour, colour);
   }
   paintSquare(slot, colour);
-  Label12->Caption = kLastMove + std::to_string(s);
+  flow_->showLastMove(s);
   if (!onePlayer()) passCircleTurn();
   if (afterCircleMove()) return;
   if (!onePlayer()) return;
-  Label3->Visible = true;
-  Label4->Visible = false;
-  Label33->ForeColor = color::Red;
-  Label33->Caption = kRedsTurn;
+  flow_->showTurn(Side::Red);
+  flow_->say(kRedsTurn, color::Red);
   Refresh();
   wait(2);
   circleReply();
@@ -159,10 +159,8 @@ void zorvex::inkBoardLine(int L, int value) {
 
 void zorvex::passCircleTurn() {
   bool blueNext = mover() != color::Blue;
-  Label33->ForeColor = blueNext ? color::Blue : color::Red;
-  Label33->Caption = blueNext ? kBluesTurn : kRedsTurn;
-  Label4->Visible = blueNext;
-  Label3->Visible = !blueNext;
+  flow_->say(blueNext ? kBluesTurn : kRedsTurn, blueNext ? color::Blue : color::Red);
+  flow_->showTurn(blueNext ? Side::Blue : Side::Red);
 }
 
 // Zorvex (Squares): a square is claimed, its diagonal drawn; six claimed
@@ -185,7 +183,7 @@ void zorvex::ballswalls(int s) {
     squareinks.at(static_cast<size_t>(s)).at(static_cast<size_t>(k)) = colour;
   }
   // "Last move" carries the square to a player far away, as in every game.
-  Label12->Caption = kLastMove + std::to_string(s);
+  flow_->showLastMove(s);
   Shape1(s).BorderColor = color::Yellow;
   Shape1(s).BorderWidth = kPlayedRing;
   Refresh();

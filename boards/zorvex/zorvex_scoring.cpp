@@ -10,6 +10,7 @@
 #include "frame/keypad.h"
 #include "frame/round_list.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -21,10 +22,6 @@ constexpr double kSquareFlash = 0.5;
 constexpr double kCubeFlash = 1;
 constexpr double kVraskEndPause = 4;
 
-void addPoints(Element& score, int points) {
-  score.Caption = std::to_string(static_cast<int>(Val(score.Caption)) + points);
-}
-
 const char* sideName(bool red) {
   return red ? "Red" : "Blue";
 }
@@ -34,7 +31,7 @@ const char* sideName(bool red) {
 // --- Ombrel and Zorvex (Lines) ---------------------------------------------------
 
 void zorvex::scoremove() {
-  setMenusEnabled(false);
+  flow_->setGameMenusEnabled(false);
   sd_->stop();
   for (Element& circle : *Label9_) circle.Visible = false;
   keypad_->text().Text.clear();
@@ -44,9 +41,8 @@ void zorvex::scoremove() {
   if (n != 0) {
     bool blueMoved = rednext == 1;
     rednext = blueMoved ? 0 : 1;
-    Label3->Visible = !blueMoved;
-    Label4->Visible = blueMoved;
-    addPoints(blueMoved ? *Label5 : *Label6, n);
+    flow_->showTurn(blueMoved ? Side::Blue : Side::Red);
+    flow_->addPoints(blueMoved ? Side::Blue : Side::Red, n);
   }
   settleLineTurn(n);
   if (n == 0 && onePlayer()) sd_->restart();
@@ -101,8 +97,7 @@ void zorvex::settleLineTurn(int n) {
   std::string next = sideName(redNext);
   switch (n) {
     case 0:
-      Label33->Caption = "No score    " + next + "'s turn.";
-      Label33->ForeColor = redNext ? kRedText : color::Blue;
+      flow_->say("No score    " + next + "'s turn.", redNext ? kRedText : color::Blue);
       return;
     case 1:
       Label33->Caption = " Score!      " + next +
@@ -193,8 +188,9 @@ void zorvex::recount() {
     }
   }
   Label9(0).Visible = Label9(30).Visible;
-  Label5->Caption = std::to_string(blue);
-  Label6->Caption = std::to_string(red);
+  flow_->zeroScores();
+  flow_->addPoints(Side::Blue, blue);
+  flow_->addPoints(Side::Red, red);
   Label35->Caption = movesLeft(kSquares - usedSquares());
 }
 
@@ -232,16 +228,15 @@ void zorvex::countCubes() {
     if (!whole || cubescored.at(static_cast<size_t>(c)) != 0) continue;
     const auto& edges = tables.cubelines.at(static_cast<size_t>(c));
     flashFigure(std::vector<int>(edges.begin() + 1, edges.end()), kCubeFlash);
-    addPoints(mover() != color::Blue ? *Label5 : *Label6, 1);
+    flow_->addPoints(mover() != color::Blue ? Side::Blue : Side::Red, 1);
     cubescored.at(static_cast<size_t>(c)) = 1;
     scored = true;
   }
   if (!scored) return;
   bool blue = mover() != color::Blue;
-  Label33->ForeColor = blue ? color::Blue : color::Red;
-  Label33->Caption = blue ? "Score! Blue goes again" : "Score! Red goes again";
-  Label4->Visible = blue;
-  Label3->Visible = !blue;
+  flow_->say(blue ? "Score! Blue goes again" : "Score! Red goes again",
+             blue ? color::Blue : color::Red);
+  flow_->showTurn(blue ? Side::Blue : Side::Red);
 }
 
 // --- the end of a game -----------------------------------------------------------------
@@ -255,11 +250,7 @@ void zorvex::gameEnd(double pause) {
   }
   sd_->stop();
   Command2_Click();
-  roundList_->recordGame(static_cast<int>(Val(Label5->Caption)),
-                         static_cast<int>(Val(Label6->Caption)));
-  for (Element& label : *Label15_) label.Visible = true;
-  setDefaultButton(*this, *Command7);
-  SetFocus(*Command7);
+  flow_->endGame();
   gameover = 1;
 }
 

@@ -8,6 +8,7 @@
 #include "boards/zorvex/zorvex.h"
 #include "frame/keypad.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -30,13 +31,13 @@ constexpr std::array<int, 9> kFixedOpening{40, 23, 15, 49, 21, 20, 24, 50, 41};
 // A line that a move has painted, by click or as a cross line, cannot be
 // clicked again; it changes only as a cross line of another move.
 void zorvex::lineVraskClick(int slot, bool byComputer) {
-  lineClickPrelude();
   int L = boardLine(viewno, slot);
-  markmov(L);
   if (hitlines.at(static_cast<size_t>(L)) != 0) {
     badmove();
     return;
   }
+  lineClickPrelude();
+  markmov(L);
   lineVraskMove(slot, mover());
   passLineVraskTurn();
   int left = countWidthOneLines();
@@ -51,16 +52,14 @@ void zorvex::lineVraskClick(int slot, bool byComputer) {
     return;
   }
   if (!onePlayer() || byComputer) return;
-  Label3->Visible = true;
-  Label4->Visible = false;
+  flow_->showTurn(Side::Red);
   Refresh();
   std::vector<int> free;
   for (int p = 1; p <= kLines; ++p) {
     if (LN(p).BorderWidth == kFree) free.push_back(p);
   }
   int reply = pickFrom(free);
-  Label3->Visible = false;
-  Label4->Visible = true;
+  flow_->showTurn(Side::Blue);
   lineVraskClick(reply, true);
 }
 
@@ -85,11 +84,9 @@ void zorvex::lineVraskMove(int slot, int colour) {
 
 void zorvex::passLineVraskTurn() {
   bool redNext = mover() == color::Blue;
-  Label33->ForeColor = redNext ? color::Red : color::Blue;
-  Label33->Caption = redNext ? kRedsLineTurn : kBluesLineTurn;
+  flow_->say(redNext ? kRedsLineTurn : kBluesLineTurn, redNext ? color::Red : color::Blue);
   moverid = redNext ? kRedId : kBlueId;
-  Label3->Visible = redNext;
-  Label4->Visible = !redNext;
+  flow_->showTurn(redNext ? Side::Red : Side::Blue);
 }
 
 int zorvex::countWidthOneLines() const {
@@ -117,8 +114,9 @@ void zorvex::lineVraskRecount() {
       }
     }
   }
-  Label5->Caption = std::to_string(blue);
-  Label6->Caption = std::to_string(red);
+  flow_->zeroScores();
+  flow_->addPoints(Side::Blue, blue);
+  flow_->addPoints(Side::Red, red);
 }
 
 // Red's opening against the computer: painted, but not marked as hit, so
@@ -131,11 +129,9 @@ void zorvex::fixedOpening() {
     inkBoardLine(L, color::Red);
   }
   Label34->Caption = movesLeft(countWidthOneLines());
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = kBluesLineTurn;
+  flow_->say(kBluesLineTurn, color::Blue);
   moverid = kBlueId;
-  Label3->Visible = false;
-  Label4->Visible = true;
+  flow_->showTurn(Side::Blue);
 }
 
 // --- the Vrask move -----------------------------------------------------------------
@@ -146,17 +142,16 @@ void zorvex::fixedOpening() {
 void zorvex::outtahere() {
   sd_->stop();
   hideCumulativePanel();
-  setMenusEnabled(false);
+  flow_->setGameMenusEnabled(false);
   auto it = std::find_if(circlestate.begin() + 1, circlestate.end(), [](int v) { return v <= 1; });
   int s = static_cast<int>(it - circlestate.begin());
-  Label33->ForeColor = color::Black;
-  Label33->Caption = kVraskMove;
+  flow_->say(kVraskMove, color::Black);
   int p = slotSquare(s);
   if (isSuperVrask(gamemode)) {
     for (int neighbour : planeNeighbours(p)) paintSquare(neighbour, color::Black);
   }
   paintSquare(p, color::Black);
-  Label12->Caption = kLastMove + std::to_string(s);
+  flow_->showLastMove(s);
   recount();
   gameEnd(kVraskEndPause);
 }
@@ -166,8 +161,7 @@ void zorvex::outtathere() {
   lineClickPrelude();
   int slot = 1;
   while (LN(slot).BorderWidth != kFree) ++slot;
-  Label33->ForeColor = color::Black;
-  Label33->Caption = kVraskMove;
+  flow_->say(kVraskMove, color::Black);
   markmov(boardLine(viewno, slot));
   lineVraskMove(slot, color::Black);
   passLineVraskTurn();

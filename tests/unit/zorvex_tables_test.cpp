@@ -122,8 +122,8 @@ TEST(ZorvexLayout, HitZonesCoverTheirLineAndEveryLineHasOne) {
   for (int zone = 0; zone < layout::kZones; ++zone) {
     int slot = layout::zoneLine(zone);
     covered.insert(slot);
-    layout::Segment seg = layout::lineAt(slot);
-    layout::Rect r = layout::zoneAt(zone);
+    Segment seg = layout::lineAt(slot);
+    Rect r = layout::zoneAt(zone);
     double mx = r.left + r.width / 2;
     double my = r.top + r.height / 2;
     // The zone's middle lies on the line, within a few twips.
