@@ -42,39 +42,44 @@ inline constexpr Rect kSecondCircle30{6240, 2880, 480, 480};
 // The view marker `Line3(i)`: two strokes for each view.
 Segment viewMarkerAt(int i);
 
-// The form: the cube on the left, two side columns on the right.
-inline constexpr double kFormWidth = 18000;
-inline constexpr double kFormHeight = 9900;
-inline constexpr Rect kSidePanel{10860, 0, kFormWidth - 10860, kFormHeight};
+// The form, with the cube on the left and two side columns on the right.
+inline constexpr Rect kForm{0, 0, 18000, 9900};
+inline constexpr Rect kSidePanel{10860, 0, kForm.width - 10860, kForm.height};
 
+// The first column, row by row from the top: the game, the status, the two
+// players with their points and turn markers, the counters, the last move,
+// the views, New and the keypad's opener, "GAME OVER", the hints, the clock.
 inline constexpr double kColumnLeft = 11040;
-inline constexpr double kColumnWidth = 3300;
 inline constexpr double kLineHeight = 285;
-inline constexpr Rect kGameName{kColumnLeft, 180, kColumnWidth, 540};
-inline constexpr Rect kStatus{kColumnLeft, 780, kColumnWidth, 600};
+constexpr Rect fullRow(double top, double height = kLineHeight) {
+  return {kColumnLeft, top, 3300, height};
+}
+inline constexpr Rect kGameName = fullRow(180, 540);
+inline constexpr Rect kStatus = fullRow(780, 600);
+// Each player has half the column: Blue the left, Red the right.
 inline constexpr double kHalf = 1590;
 inline constexpr double kRightHalf = kColumnLeft + 1710;
-inline constexpr double kPlayerTop = 1500;
-inline constexpr double kScoreTop = 1800;
-inline constexpr double kScoreHeight = 660;
-inline constexpr double kYourTurnTop = 2490;
-inline constexpr Rect kMovesLeft{kColumnLeft, 2880, kColumnWidth, kLineHeight};
-inline constexpr Rect kNonScoring{kColumnLeft, 3180, kColumnWidth, kLineHeight};
-inline constexpr Rect kLastMove{kColumnLeft, 3480, kColumnWidth, kLineHeight};
-inline constexpr Rect kViewLabel{kColumnLeft + 960, 3930, 1380, 375};
+inline constexpr struct {
+  double player = 1500, points = 1800, pointsHeight = 660, yourTurn = 2490;
+} kPlayerRows;
+inline constexpr Rect kMovesLeft = fullRow(2880);
+inline constexpr Rect kNonScoring = fullRow(3180);
+inline constexpr Rect kLastMove = fullRow(3480);
 inline constexpr Rect kViewDown{kColumnLeft, 3900, 840, 420};
+inline constexpr Rect kViewLabel{kColumnLeft + 960, 3930, 1380, 375};
 inline constexpr Rect kViewUp{kColumnLeft + 2460, 3900, 840, 420};
-inline constexpr Rect kNewGame{kColumnLeft, 4560, 1590, 450};
+inline constexpr Rect kNewGame{kColumnLeft, 4560, kHalf, 450};
 inline constexpr Place kKeypadOpener{kColumnLeft + 1830, 4590};
 inline constexpr double kGameOverTop = 5160;
 inline constexpr double kGameOverRow = 540;
-inline constexpr Rect kHintList{kColumnLeft, 6300, kColumnWidth, 1500};
-inline constexpr Rect kTimeHeading{kColumnLeft, 8040, kColumnWidth, kLineHeight};
+inline constexpr Rect kHintList = fullRow(6300, 1500);
+inline constexpr Rect kTimeHeading = fullRow(8040);
 inline constexpr Place kTimeBar{kColumnLeft, 8370};
 
+// The second column: the cumulative score, and the keypad below it.
 inline constexpr double kSecondLeft = 14520;
 inline constexpr Rect kShowRounds{kSecondLeft, 240, 3300, 420};
-inline constexpr Rect kRoundsTitle{kSecondLeft, 240, 3300, 285};
+inline constexpr Rect kRoundsTitle{kSecondLeft, 240, 3300, kLineHeight};
 inline constexpr Place kRoundList{kSecondLeft, 540};
 inline constexpr Rect kHideRounds{kSecondLeft + 2400, 3480, 900, 360};
 inline constexpr Place kKeypad{kSecondLeft + 720, 4080};

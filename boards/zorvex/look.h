@@ -3,6 +3,10 @@
 
 namespace vrask::cube {
 
+// Who moved, as `moverid` and the line tables of Ombrel keep it.
+inline constexpr int kRedId = 1;
+inline constexpr int kBlueId = 2;
+
 // A painted line is drawn 5 wide, a free one 1.
 inline constexpr int kPainted = 5;
 inline constexpr int kFree = 1;

@@ -1,5 +1,7 @@
 #include "boards/zorvex/zorvex.h"
 
+#include <tuple>
+
 #include "boards/zorvex/captions.h"
 #include "boards/zorvex/layout.h"
 #include "boards/zorvex/look.h"
@@ -13,9 +15,6 @@
 
 namespace vrask {
 
-using namespace cube;
-namespace lay = cube::layout;
-
 namespace {
 
 constexpr int kRingFill = 0xE8E8E8;
@@ -24,6 +23,9 @@ constexpr double kCircleNumberSize = 11;
 
 }  // namespace
 
+using namespace cube;
+namespace lay = cube::layout;
+
 zorvex::zorvex(Program& program) : Form(program, "zorvex") {}
 
 zorvex::~zorvex() = default;
@@ -31,8 +33,8 @@ zorvex::~zorvex() = default;
 // The design in paint order, then the load in its own order.
 void zorvex::Form_Load() {
   Caption = kWindowTitle;
-  Width = lay::kFormWidth;
-  Height = lay::kFormHeight;
+  Width = lay::kForm.width;
+  Height = lay::kForm.height;
   openAboveCentre = 300;
   BackColor = kBoardColour;
   placed(add("Picture3", Kind::Picture), lay::kSidePanel).BackColor = kPanelColour;
@@ -43,14 +45,14 @@ void zorvex::Form_Load() {
   addControls();
   addMenus();
   addCumulativePanel();
-  flow_ = std::make_unique<TurnFlow>(*this, *roundList_, *keypad_,
-                                     TurnFlowNames{.bluePoints = {"Label5", std::nullopt},
-                                                   .redPoints = {"Label6", std::nullopt},
-                                                   .blueTurn = {"Label4", std::nullopt},
-                                                   .redTurn = {"Label3", std::nullopt},
-                                                   .lastMove = "Label12",
-                                                   .newButton = "Command7",
-                                                   .gameMenus = {"sdz", "xq"}});
+  flow_.emplace(*this, *roundList_, *keypad_,
+                TurnFlowNames{.bluePoints = {"Label5", std::nullopt},
+                              .redPoints = {"Label6", std::nullopt},
+                              .blueTurn = {"Label4", std::nullopt},
+                              .redTurn = {"Label3", std::nullopt},
+                              .lastMove = "Label12",
+                              .newButton = "Command7",
+                              .gameMenus = {"sdz", "xq"}});
   registerHandlers();
   registerVariables();
 
@@ -130,11 +132,9 @@ void zorvex::addStatus() {
   Label36 = &captioned(placed(add("Label36", Kind::Label), lay::kGameName), "", 10, true);
   Label36->Alignment = AlignCenter;
   Label33 = &captioned(placed(add("Label33", Kind::Label), lay::kStatus), "", 10, true);
-  // Its colour is the mover's, Black included, so it stands on white.
-  Label33->BackStyle = 1;
-  Label33->BackColor = color::White;
-  Label33->ForeColor = color::Blue;
-  Label33->Alignment = AlignCenter;
+  // The mover's colour, Black included, reads on white.
+  std::tie(Label33->BackStyle, Label33->BackColor, Label33->ForeColor, Label33->Alignment) =
+      std::tuple(1, color::White, color::Blue, static_cast<int>(AlignCenter));
   Label34 = &captioned(placed(add("Label34", Kind::Label), lay::kMovesLeft), "");
   Label35 = &captioned(placed(add("Label35", Kind::Label), lay::kNonScoring), "");
   Label12 = &captioned(placed(add("Label12", Kind::Label), lay::kLastMove), kLastMove, 10, true);
@@ -158,9 +158,10 @@ void zorvex::addScores() {
   };
   for (const Side& side : {Side{Label1, Label5, Label4, color::Blue, lay::kColumnLeft},
                            Side{Label2, Label6, Label3, color::Red, lay::kRightHalf}}) {
-    placed(*side.player, side.left, lay::kPlayerTop, lay::kHalf, lay::kLineHeight);
-    placed(*side.points, side.left, lay::kScoreTop, lay::kHalf, lay::kScoreHeight);
-    placed(*side.yourTurn, side.left, lay::kYourTurnTop, lay::kHalf, lay::kLineHeight);
+    const auto& rows = lay::kPlayerRows;
+    placed(*side.player, side.left, rows.player, lay::kHalf, lay::kLineHeight);
+    placed(*side.points, side.left, rows.points, lay::kHalf, rows.pointsHeight);
+    placed(*side.yourTurn, side.left, rows.yourTurn, lay::kHalf, lay::kLineHeight);
     for (Element* e : {side.player, side.points, side.yourTurn}) {
       e->ForeColor = side.colour;
       e->Alignment = AlignCenter;
@@ -203,8 +204,7 @@ void zorvex::addMenus() {
   addOptionsMenu();
   addViewMenu();
   addHintsMenu();
-  otherGames_ = std::make_unique<OtherGames>(
-      *this, OtherGamesNames{.twoD = "cbm", .threeD = "cccbm", .fourD = "ccccbm"});
+  otherGames_.emplace(*this, OtherGamesNames{.twoD = "cbm", .threeD = "cccbm", .fourD = "ccccbm"});
   (*findArray("cccbm"))[7].Caption = std::string(kOwnEntry) + "  (THIS VERSION!)";
   addMenu("hlp", "", "Help");
   addHelpEntry(*this, "rulen", "hlp");
@@ -227,18 +227,19 @@ void zorvex::addGamesMenu() {
 void zorvex::addOptionsMenu() {
   sdz = &addMenu("sdz", "", "Options");
   ip_ = &addMenuArray("ip", "sdz", 0, 1);
-  ip(0).Caption = "&1 Player";
-  ip(1).Caption = "&2 Player";
-  ip(0).Checked = true;
+  for (Element& entry : *ip_) {
+    entry.Caption = std::to_string(entry.index + 1).insert(0, "&") + " Player";
+    entry.Checked = entry.index == 0;
+  }
   addMenu("osep", "sdz", "-");
-  sd_ = std::make_unique<SuddenDeath>(*this, SuddenDeathConfig{.parentMenu = "sdz",
-                                                               .entries = 10,
-                                                               .timer = "Timer5",
-                                                               .interval = 100,
-                                                               .limitVar = "sdlimit",
-                                                               .leftVar = "sdclock",
-                                                               .readout = "Label10",
-                                                               .bar = lay::kTimeBar});
+  sd_.emplace(*this, SuddenDeathConfig{.parentMenu = "sdz",
+                                       .entries = 10,
+                                       .timer = "Timer5",
+                                       .interval = 100,
+                                       .limitVar = "sdlimit",
+                                       .leftVar = "sdclock",
+                                       .readout = "Label10",
+                                       .bar = lay::kTimeBar});
   hidmov = &addMenu("hidmov", "sdz", "Hide non-scoring made moves in Vrask games");
   hidmov->Checked = true;
   // The skill levels stay in the menu, out of sight: Beginner is the level.
@@ -255,9 +256,9 @@ void zorvex::addOptionsMenu() {
 // the cumulative score are wanted at any time.
 void zorvex::addViewMenu() {
   addMenu("vue", "", "View");
-  grid_ = std::make_unique<GridSwitch>(
+  grid_.emplace(
       *this, "vue", [this](bool on) { grid_Click(on); }, "grid");
-  keypad_ = std::make_unique<Keypad>(
+  keypad_.emplace(
       *this, *grid_, [this] { Command6_Click(); },
       KeypadConfig{.parentMenu = "vue",
                    .closeButton = "Command9",
@@ -279,15 +280,15 @@ void zorvex::addHintsMenu() {
 void zorvex::addCumulativePanel() {
   Command2 = &placed(add("Command2", Kind::Button), lay::kShowRounds);
   Command2->Caption = "Show Cumulative score";
-  roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.list = "List4",
-                                                                  .labels = "Label7",
-                                                                  .headerLabels = "Label20",
-                                                                  .blueHeader = 1,
-                                                                  .redHeader = 2,
-                                                                  .firstRow = "",
-                                                                  .afterWinner = "\t\t",
-                                                                  .betweenScores = "\t\t",
-                                                                  .place = lay::kRoundList});
+  roundList_.emplace(*this, RoundListConfig{.list = "List4",
+                                            .labels = "Label7",
+                                            .headerLabels = "Label20",
+                                            .blueHeader = 1,
+                                            .redHeader = 2,
+                                            .firstRow = "",
+                                            .afterWinner = "\t\t",
+                                            .betweenScores = "\t\t",
+                                            .place = lay::kRoundList});
   List4 = &roundList_->list();
   Label7_ = findArray("Label7");
   Label20_ = findArray("Label20");
@@ -300,44 +301,40 @@ void zorvex::addCumulativePanel() {
 }
 
 void zorvex::registerHandlers() {
-  handleIndexed("Label22_Click", [this](int z) { Label22_Click(z); });
-  handleIndexed("Label11_Click", [this](int n) { Label11_Click(n); });
-  handleIndexed("Label9_Click", [this](int c) { Label9_Click(c); });
-  handleIndexed("game_Click", [this](int m) { game_Click(m); });
-  handleIndexed("ip_Click", [this](int i) { ip_Click(i); });
-  handleIndexed("sskl_Click", [this](int i) { sskl_Click(i); });
-  handleIndexed("Command8_Click", [this](int i) { Command8_Click(i); });
-  handle("hidmov_Click", [this] { hidmov_Click(); });
-  handle("newz_Click", [this] { newz_Click(); });
-  handle("Command7_Click", [this] { newz_Click(); });
-  handle("Command2_Click", [this] { Command2_Click(); });
-  handle("Command5_Click", [this] { Command5_Click(); });
-  handle("Label14_Click", [this] { Command5_Click(); });
-  handle("cuscore_Click", [this] { cuscore_Click(); });
-  handle("hnt_Click", [this] { hnt_Click(); });
-  handle("shint_Click", [this] { shint_Click(); });
-  handle("bhint_Click", [this] { bhint_Click(); });
+  using Indexed = void (zorvex::*)(int);
+  const std::pair<const char*, Indexed> byIndex[] = {{"Label22_Click", &zorvex::Label22_Click},
+                                                     {"Label11_Click", &zorvex::Label11_Click},
+                                                     {"Label9_Click", &zorvex::Label9_Click},
+                                                     {"game_Click", &zorvex::game_Click},
+                                                     {"ip_Click", &zorvex::ip_Click},
+                                                     {"sskl_Click", &zorvex::sskl_Click},
+                                                     {"Command8_Click", &zorvex::Command8_Click}};
+  for (const auto& [name, fn] : byIndex) handleIndexed(name, [this, fn](int i) { (this->*fn)(i); });
+  using Plain = void (zorvex::*)();
+  const std::pair<const char*, Plain> plain[] = {
+      {"hidmov_Click", &zorvex::hidmov_Click},     {"newz_Click", &zorvex::newz_Click},
+      {"Command7_Click", &zorvex::newz_Click},     {"Command2_Click", &zorvex::Command2_Click},
+      {"Command5_Click", &zorvex::Command5_Click}, {"Label14_Click", &zorvex::Command5_Click},
+      {"cuscore_Click", &zorvex::cuscore_Click},   {"hnt_Click", &zorvex::hnt_Click},
+      {"shint_Click", &zorvex::shint_Click},       {"bhint_Click", &zorvex::bhint_Click}};
+  for (const auto& [name, fn] : plain) handle(name, [this, fn] { (this->*fn)(); });
   handle("List3_Click", [this] { List3_Click(false); });
   handle("List3_DblClick", [this] { List3_Click(true); });
   handleKey("Text1_KeyDown", [this](int, int keyCode) { Text1_KeyDown(keyCode); });
 }
 
 void zorvex::registerVariables() {
-  var("gamemode", gamemode);
-  var("viewno", viewno);
-  var("rednext", rednext);
-  var("moverid", moverid);
-  var("openerflag", openerflag);
-  var("busy", busy);
-  var("started", started);
-  var("gameover", gameover);
+  const std::pair<const char*, int*> scalars[] = {
+      {"gamemode", &gamemode}, {"viewno", &viewno},         {"rednext", &rednext},
+      {"moverid", &moverid},   {"openerflag", &openerflag}, {"busy", &busy},
+      {"started", &started},   {"gameover", &gameover}};
+  for (const auto& [name, value] : scalars) var(name, *value);
+  // A table of the board is read by its own numbers.
   auto list = [](const auto& table) {
     return [&table](int i) { return num(table.at(static_cast<size_t>(i))); };
   };
   auto grid = [](const auto& table) {
-    return [&table](int r, int c) {
-      return num(table.at(static_cast<size_t>(r)).at(static_cast<size_t>(c)));
-    };
+    return [&table](int row, int k) { return num(table.at(static_cast<size_t>(row))[k]); };
   };
   varArray("lineowner", 1, kLines, list(lineowner));
   varArray("hitlines", 1, kLines, list(hitlines));

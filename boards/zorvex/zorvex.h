@@ -17,22 +17,20 @@
 #pragma once
 
 #include <array>
-#include <memory>
-#include <string>
+#include <optional>
 #include <vector>
 
 #include "boards/zorvex/computer.h"
 #include "boards/zorvex/tables.h"
+#include "frame/grid_switch.h"
+#include "frame/keypad.h"
+#include "frame/other_games.h"
+#include "frame/round_list.h"
+#include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 #include "toolkit/form.h"
 
 namespace vrask {
-
-class GridSwitch;
-class Keypad;
-class OtherGames;
-class RoundList;
-class SuddenDeath;
-class TurnFlow;
 
 class zorvex : public Form {
  public:
@@ -104,6 +102,7 @@ class zorvex : public Form {
   void Command5_Click();
   void cuscore_Click();
   void hideCumulativePanel();
+  void showCumulativePanel(bool on);
   void handKeypadToMover();
 
   // --- the computer (zorvex_computer.cpp) ----------------------------------------
@@ -132,15 +131,17 @@ class zorvex : public Form {
   void List3_Click(bool play);
 
   // --- elements by the board's own names -----------------------------------
-  Element& LN(int i) { return (*LN_)[i]; }
-  Element& Label22(int i) { return (*Label22_)[i]; }
-  Element& Label11(int i) { return (*Label11_)[i]; }
-  Element& Shape1(int i) { return (*Shape1_)[i]; }
-  Element& Label9(int i) { return (*Label9_)[i]; }
-  Element& Line2(int s) { return (*Line2_)[10 * s]; }
-  Element& game(int i) { return (*game_)[i]; }
-  Element& ip(int i) { return (*ip_)[i]; }
-  Element& sskl(int i) { return (*sskl_)[i]; }
+  static Element& item(ElementArray* array, int i) { return (*array)[i]; }
+  Element& LN(int i) { return item(LN_, i); }
+  Element& Label22(int i) { return item(Label22_, i); }
+  Element& Label11(int i) { return item(Label11_, i); }
+  Element& Shape1(int i) { return item(Shape1_, i); }
+  Element& Label9(int i) { return item(Label9_, i); }
+  // The diagonal of square s is `Line2(10 s)`.
+  Element& Line2(int s) { return item(Line2_, 10 * s); }
+  Element& game(int i) { return item(game_, i); }
+  Element& ip(int i) { return item(ip_, i); }
+  Element& sskl(int i) { return item(sskl_, i); }
   bool onePlayer() const { return (*ip_)[0].Checked; }
   bool gridOn() const;
   int mover() const { return Label33->ForeColor; }
@@ -188,12 +189,15 @@ class zorvex : public Form {
   Element* hidmov = nullptr;
   Element* cuscore = nullptr;
 
-  std::unique_ptr<SuddenDeath> sd_;
-  std::unique_ptr<GridSwitch> grid_;
-  std::unique_ptr<Keypad> keypad_;
-  std::unique_ptr<OtherGames> otherGames_;
-  std::unique_ptr<RoundList> roundList_;
-  std::unique_ptr<TurnFlow> flow_;
+  // The frame's services under this form's names: the menus' ...
+  std::optional<OtherGames> otherGames_{};
+  std::optional<SuddenDeath> sd_{};
+  std::optional<GridSwitch> grid_{};
+  // ... the keypad and the round list, and the flow of a game, which reads
+  // the elements of all of them.
+  std::optional<Keypad> keypad_{};
+  std::optional<RoundList> roundList_{};
+  std::optional<TurnFlow> flow_{};
 
   // --- the game -------------------------------------------------------------
   cube::Tables tables;

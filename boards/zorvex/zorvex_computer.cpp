@@ -12,7 +12,6 @@ using namespace cube;
 
 namespace {
 
-constexpr int kRedId = 1;
 constexpr double kLinePause = 1;
 constexpr double kCirclePause = 2;
 

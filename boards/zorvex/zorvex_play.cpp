@@ -17,8 +17,6 @@ using namespace cube;
 
 namespace {
 
-constexpr int kRedId = 1;
-constexpr int kBlueId = 2;
 // Circle 30 has a second click target, `Label9(0)`.
 constexpr int kTwinCircle = 30;
 

@@ -257,37 +257,28 @@ void zorvex::gameEnd(double pause) {
 // --- the cumulative panel ------------------------------------------------------------------
 
 void zorvex::Command2_Click() {
-  cuscore->Checked = true;
-  for (Element& label : *Label20_) label.Visible = true;
-  (*Label7_)[5].Visible = true;
-  (*Label7_)[6].Visible = true;
-  List4->Visible = true;
-  Label14->Visible = true;
-  Command5->Visible = true;
-  Command2->Visible = false;
+  showCumulativePanel(true);
 }
 
 void zorvex::Command5_Click() {
-  hideCumulativePanel();
+  showCumulativePanel(false);
 }
 
 void zorvex::cuscore_Click() {
-  if (cuscore->Checked) {
-    hideCumulativePanel();
-  } else {
-    Command2_Click();
-  }
+  showCumulativePanel(!cuscore->Checked);
 }
 
 void zorvex::hideCumulativePanel() {
-  cuscore->Checked = false;
-  for (Element& label : *Label20_) label.Visible = false;
-  (*Label7_)[5].Visible = false;
-  (*Label7_)[6].Visible = false;
-  List4->Visible = false;
-  Label14->Visible = false;
-  Command5->Visible = false;
-  Command2->Visible = true;
+  showCumulativePanel(false);
+}
+
+// The rounds with their headers and totals, or the button that brings them.
+void zorvex::showCumulativePanel(bool on) {
+  cuscore->Checked = on;
+  for (Element& label : *Label20_) label.Visible = on;
+  for (Element& total : *Label7_) total.Visible = on;
+  for (Element* e : {List4, Label14, Command5}) e->Visible = on;
+  Command2->Visible = !on;
 }
 
 }  // namespace vrask

@@ -16,8 +16,6 @@ using namespace cube;
 
 namespace {
 
-constexpr int kRedId = 1;
-constexpr int kBlueId = 2;
 constexpr double kHitPause = 2;
 constexpr double kVraskEndPause = 4;
 
