@@ -74,7 +74,9 @@ class SeriesRun {
  public:
   SeriesRun(const PlayDescriptor& play, const Setup& setup, std::uint64_t seed)
       : play_(play), program_(host_), dice_(seed) {
-    registerSuite(program_);
+    // The board alone: which other boards the suite has built shows in its
+    // "Other Games" entries, and its signature is of its own games.
+    registerSuite(program_, play.form);
     program_.open(play.form);
     for (const Choice& choice : setup.clicks) click(choice);
   }

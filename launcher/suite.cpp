@@ -35,11 +35,15 @@ const Board* findBoard(const std::string& form) {
   return nullptr;
 }
 
-void registerSuite(Program& program) {
+void registerSuite(Program& program, const std::string& onlyBoard) {
   shared::defineSharedValues(program.shared());
   program.registerForm("title", factory<title>());
   program.registerForm("AboutBox", factory<AboutBox>());
-  for (const Board& board : boards()) program.registerForm(board.play.form, board.factory);
+  for (const Board& board : boards()) {
+    if (onlyBoard.empty() || board.play.form == onlyBoard) {
+      program.registerForm(board.play.form, board.factory);
+    }
+  }
 }
 
 }  // namespace vrask

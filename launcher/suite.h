@@ -23,7 +23,8 @@ const Board* findBoard(const std::string& form);
 
 // Defines the shared values and registers each form of the program with
 // `program` under its own name: the launcher `title`, the about box
-// `AboutBox` and the boards.
-void registerSuite(Program& program);
+// `AboutBox` and the boards, or of the boards only `onlyBoard` when it is
+// given.
+void registerSuite(Program& program, const std::string& onlyBoard = "");
 
 }  // namespace vrask
