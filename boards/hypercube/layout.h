@@ -79,7 +79,7 @@ inline constexpr double kFormHeight = 11800;
 inline constexpr double kLegendLeft = 60;
 inline constexpr double kLegendWidth = 1000;
 inline constexpr double kLegendTop = 480;
-inline constexpr double kLegendStep = 420;
+inline constexpr double kLegendStep = 540;
 // The first-time hint under the legend, until the first move.
 inline constexpr Rect kFirstTimeHint{60, 2700, 1620, 1800};
 

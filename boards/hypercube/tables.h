@@ -132,12 +132,12 @@ using SideTable = std::array<std::array<int, 5>, kSquares + 1>;
 SideTable startr();
 
 // Where a line stands in the side table: square and side.
-struct Place {
+struct SidePlace {
   int square;
   int side;
 };
 // For each slot (1..80) the places that hold it, in square order.
-using LinePlaces = std::array<std::vector<Place>, kLines + 1>;
+using LinePlaces = std::array<std::vector<SidePlace>, kLines + 1>;
 LinePlaces placesOf(const SideTable& sqln);
 
 // lnnb: for each slot the slots a Line Vrask move paints with it, in

@@ -121,7 +121,7 @@ TEST(HypercubeComputer, TakesTheLowestThreeSidedSquareAndOffersOnlySafeLines) {
   LinePlaces places = placesOf(sqln);
   auto paint = [&](int slot) {
     lnown[slot] = 2;
-    for (Place p : places[slot]) sqside[p.square][p.side] = 2;
+    for (SidePlace p : places[slot]) sqside[p.square][p.side] = 2;
   };
   // Three sides of Blue's back (1), two of its right (3) and bottom (4).
   for (int slot : {80, 4, 6, 8}) paint(slot);

@@ -1,0 +1,402 @@
+#include "boards/hypercube/form5d2.h"
+
+#include <string>
+
+#include "boards/hypercube/captions.h"
+#include "boards/hypercube/layout.h"
+#include "boards/hypercube/look.h"
+#include "frame/grid_switch.h"
+#include "frame/helpers.h"
+#include "frame/keypad.h"
+#include "frame/other_games.h"
+#include "frame/round_list.h"
+#include "frame/session_menu.h"
+#include "launcher/shared_state.h"
+
+namespace vrask {
+
+using namespace hypercube;
+namespace lay = hypercube::layout;
+
+namespace {
+
+// A light grey behind the band of controls, a mid grey behind the pictures:
+// the white, black, blue and dark red cubes all show on it.
+constexpr int kFormColour = 0xC8C8C8;
+constexpr int kPictureColour = 0x8C8C8C;
+constexpr int kPictureCaptionColour = 0x202020;
+// An open circle: pale, with the square's number in black on it.
+constexpr int kCircleColour = 0xE0F8FF;
+constexpr double kNumberSize = 7;
+constexpr double kCircleNumberSize = 7;
+// The grid numbers of the lines that no rule gives a colour.
+constexpr int kOtherNumbers = color::Black;
+
+Element& placed(Element& e, const lay::Rect& r) {
+  return vrask::placed(e, r.left, r.top, r.width, r.height);
+}
+
+Element& text(Element& e, const std::string& caption, double fontSize = 9, bool bold = false) {
+  e.Caption = caption;
+  e.FontSize = fontSize;
+  e.FontBold = bold;
+  e.BackStyle = 0;
+  return e;
+}
+
+void setLine(Element& e, const lay::Segment& s, int colour) {
+  e.X1 = s.from.x;
+  e.Y1 = s.from.y;
+  e.X2 = s.to.x;
+  e.Y2 = s.to.y;
+  e.BorderColor = colour;
+}
+
+// The line a number label belongs to: `Label9(n)` carries the number n of
+// the line of index n - 1, and `Label9(81)` the number 1 of index 0.
+int indexOfNumber(int n) {
+  return n == 81 ? 0 : n - 1;
+}
+
+}  // namespace
+
+form5d2::form5d2(Program& program) : Form(program, "form5d2") {}
+
+form5d2::~form5d2() = default;
+
+void form5d2::Form_Load() {
+  Caption = shared().product_title;
+  Width = lay::kFormWidth;
+  Height = lay::kFormHeight;
+  openAboveCentre = 300;
+  BackColor = kFormColour;
+  designColour_ = designColours();
+  addPictures();
+  addSegments();
+  addSquares();
+  addHitAreas();
+  addLegend();
+  addStatus();
+  addScores();
+  addHints();
+  addKey();
+  addMenus();
+  roundList_ = std::make_unique<RoundList>(
+      *this, RoundListConfig{
+                 .blueHeader = 7, .redHeader = 8, .place = {lay::kRoundListLeft, lay::kBandTop}});
+  registerHandlers();
+  registerVariables();
+
+  for (int n = 2; n <= 81; ++n) {
+    int index = indexOfNumber(n);
+    int colour = kOtherNumbers;
+    if (index < 12) colour = kBlueNumbers;
+    if (index >= 24 && index < 36) colour = color::White;
+    if (index >= 36 && index < 48) colour = kRedCube;
+    Label9(n).ForeColor = colour;
+  }
+  gamenum = 1;
+  redtoplay = 0;
+  sqln = startr();
+  places_ = placesOf(sqln);
+  lnnb = lineNeighbours();
+  plusnb = plusNeighbours();
+  gm_Click(8);
+  // The first New after the board opens lets the computer open.
+  firstturn = 1;
+}
+
+void form5d2::addPictures() {
+  ElementArray& pictures = addArray("Picture3", Kind::Picture, 0, 7);
+  ElementArray& captions = addArray("Label2", Kind::Label, 0, 7);
+  for (int i = 0; i < 8; ++i) {
+    const lay::Picture& p = lay::kPictures.at(i);
+    placed(pictures[i], p.box).BackColor = kPictureColour;
+    placed(text(captions[i], p.caption, 9, true),
+           {p.box.left, p.box.top, p.box.width, lay::kPictureCaptionHeight})
+        .Alignment = AlignCenter;
+    captions[i].ForeColor = kPictureCaptionColour;
+  }
+}
+
+// One array per cube edge (`c1backtop` ...) holding that edge of all four
+// cubes at 10 c + 0..3, and one per connector (`t1leftfront` ...) with its
+// three segments. The indexes between the cubes' are not drawn.
+void form5d2::addSegments() {
+  for (int e = 0; e < kEdges; ++e) {
+    ElementArray& edge = addArray(segmentArrayName(e), Kind::Line, 0, 33);
+    for (Element& segment : edge) segment.Visible = false;
+    for (int c = 0; c < kCubes; ++c) {
+      int slot = slotOf(cubeLine(c, e));
+      for (int set : lay::kSegmentSets) {
+        Element& segment = edge[10 * c + set];
+        setLine(segment, lay::cubeSegment(e, 10 * c + set), designColour_.at(slot));
+        segment.Visible = true;
+        segments_.at(slot).push_back(&segment);
+      }
+    }
+  }
+  for (int step = 0; step < kCubes; ++step) {
+    for (int k = 0; k < kCorners; ++k) {
+      int index = kSteps.at(step).base + k;
+      ElementArray& connector = addArray(segmentArrayName(index), Kind::Line, 0, 2);
+      for (Element& segment : connector) {
+        setLine(segment, lay::connectorSegment(step, k, segment.index), designColour_.at(index));
+        segments_.at(index).push_back(&segment);
+      }
+    }
+  }
+}
+
+// The ring `Shape1(s)` and over it the circle `Label11(s)` a player clicks.
+void form5d2::addSquares() {
+  Shape1_ = &addArray("Shape1", Kind::Shape, 1, kSquares);
+  for (Element& ring : *Shape1_) {
+    placed(ring, lay::ringAt(ring.index));
+    ring.Shape = Circle;
+    ring.FillStyle = 0;
+    ring.FillColor = kCircleColour;
+    ring.BorderColor = color::Black;
+    ring.Visible = false;
+  }
+  Label11_ = &addArray("Label11", Kind::Label, 1, kSquares);
+  for (Element& circle : *Label11_) {
+    placed(text(circle, "", kCircleNumberSize, true), lay::circleAt(circle.index));
+    circle.Alignment = AlignCenter;
+    circle.ForeColor = color::Black;
+    circle.Visible = false;
+  }
+}
+
+// `Label1(i)` over line index i, with four second hit areas at ten times the
+// index; the indexes between them are not on the board. The numbers `Label9`
+// stand over the hit areas.
+void form5d2::addHitAreas() {
+  Label1_ = &addArray("Label1", Kind::Label, 0, lay::kSecondHitAreas.back());
+  for (Element& area : *Label1_) {
+    area.BackStyle = 0;
+    area.Visible = false;
+  }
+  for (int index = 0; index < kLines; ++index) placed(Label1(index), lay::hitArea(index));
+  for (int copy : lay::kSecondHitAreas) placed(Label1(copy), lay::secondHitArea(copy / 10));
+  Label9_ = &addArray("Label9", Kind::Label, 2, 81);
+  for (Element& number : *Label9_) {
+    int index = indexOfNumber(number.index);
+    placed(text(number, std::to_string(index + 1), kNumberSize, true), lay::hitArea(index));
+    number.Alignment = AlignCenter;
+    number.Visible = false;
+  }
+}
+
+// The ring at the left, cube by cube, and the first-time hint under it.
+void form5d2::addLegend() {
+  Label10_ = &addArray("Label10", Kind::Label, 0, 9);
+  const std::array<const char*, 10> captions{
+      "White cube", "|", "Red cube", "|", "Black cube", "|", "Blue cube", "White cube", "", ""};
+  for (Element& label : *Label10_) {
+    double top = lay::kLegendTop + lay::kLegendStep * label.index / 2.0;
+    if (label.index == 7) top = lay::kLegendTop + lay::kLegendStep * 4;
+    placed(text(label, captions.at(label.index), 9, true),
+           {lay::kLegendLeft, top, lay::kLegendWidth, lay::kRowHeight});
+    label.Alignment = AlignCenter;
+  }
+  // Blue to White closes the ring: the step between the last two names.
+  Label10(8).Caption = "|";
+  placed(Label10(8), {lay::kLegendLeft, lay::kLegendTop + lay::kLegendStep * 3.5, lay::kLegendWidth,
+                      lay::kRowHeight});
+  placed(text(Label10(9), kFirstTimeHint, 8), lay::kFirstTimeHint);
+  Label10(9).ForeColor = color::Blue;
+}
+
+void form5d2::addStatus() {
+  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 10, true);
+  Label33 = &text(placed(add("Label33", Kind::Label), lay::kStatus), "", 11, true);
+  // Its colour is the mover's, Black included, so it stands on white.
+  Label33->BackStyle = 1;
+  Label33->BackColor = color::White;
+  Label33->ForeColor = color::Blue;
+  Label33->Alignment = AlignCenter;
+  Label99 = &text(placed(add("Label99", Kind::Label), lay::kMovesLeft), "");
+  Label12 = &text(placed(add("Label12", Kind::Label), lay::kLastMove), kLastMove);
+  Command1 = &placed(add("Command1", Kind::Button), lay::kNewGame);
+  Command1->Caption = "New game";
+  Label15_ = &addArray("Label15", Kind::Label, 0, 3);
+  for (Element& label : *Label15_) {
+    int row = label.index / 2;
+    int column = label.index % 2;
+    placed(text(label, column == 0 ? "GAME" : "OVER", 20, true),
+           {lay::kGameOverLeft + column * lay::kGameOverWidth,
+            lay::kGameOverTop + row * lay::kGameOverRow, lay::kGameOverWidth, lay::kGameOverRow});
+    label.ForeColor = color::Red;
+    label.Alignment = AlignCenter;
+    label.Visible = false;
+  }
+}
+
+// Blue's column on the left, Red's on the right: a heading with a swatch of
+// the colour a finished square's lines take (`Label333`, `Label444`), the
+// points, and "Your turn" (`Label4` Blue's, `Label3` Red's).
+void form5d2::addScores() {
+  ElementArray& headings = addArray("Label8", Kind::Label, 0, 1);
+  Label333 = &add("Label333", Kind::Label);
+  Label444 = &add("Label444", Kind::Label);
+  Label5 = &add("Label5", Kind::Label);
+  Label6 = &add("Label6", Kind::Label);
+  Label4_ = &add("Label4", Kind::Label);
+  Label3_ = &add("Label3", Kind::Label);
+  struct Side {
+    Element& heading;
+    Element& swatch;
+    Element& points;
+    Element& yourTurn;
+    const char* name;
+    int colour;
+    int swatchColour;
+  };
+  std::array<Side, 2> sides{
+      {{headings[0], *Label333, *Label5, *Label4_, "Blue", color::Blue, color::Blue},
+       {headings[1], *Label444, *Label6, *Label3_, "Red", color::Red, kDarkRed}}};
+  for (size_t i = 0; i < sides.size(); ++i) {
+    Side& side = sides.at(i);
+    double left = lay::kScoreLeft + lay::kScoreGap * static_cast<double>(i);
+    placed(text(side.heading, side.name, 10, true),
+           {left, lay::kScoreHeadingTop, lay::kScoreWidth, lay::kRowHeight});
+    placed(side.swatch, {left + 120, lay::kScoreHeadingTop + 50, lay::kSwatch, lay::kSwatch});
+    side.swatch.BackColor = side.swatchColour;
+    placed(text(side.points, "0", 26, true),
+           {left, lay::kScoreTop, lay::kScoreWidth, lay::kScoreHeight});
+    placed(text(side.yourTurn, kYourTurn, 10, true),
+           {left, lay::kYourTurnTop, lay::kScoreWidth, lay::kRowHeight});
+    for (Element* e : {&side.heading, &side.points, &side.yourTurn}) {
+      e->ForeColor = side.colour;
+      e->Alignment = AlignCenter;
+    }
+  }
+  Label3_->Visible = false;
+}
+
+void form5d2::addHints() {
+  Label34 = &text(placed(add("Label34", Kind::Label), lay::kSafeCount), "", 9, true);
+  Label34->Visible = false;
+  List3 = &placed(add("List3", Kind::ListBox), lay::kSafeList);
+  List3->BackColor = color::White;
+  List3->Visible = false;
+}
+
+// What a Super Vrask Plus move takes, shown beside the board in those games.
+void form5d2::addKey() {
+  Shape2_ = &addArray("Shape2", Kind::Shape, 0, 1);
+  const lay::Rect& box = lay::kKey;
+  placed((*Shape2_)[0], box).BorderColor = color::Black;
+  placed((*Shape2_)[1], {box.left + 60, box.top + 60, box.width - 120, box.height - 120})
+      .BorderColor = color::Yellow;
+  Image1 = &placed(add("Image1", Kind::Image), box);
+  keyText = &placed(add("Label35", Kind::Label),
+                    {box.left + 150, box.top + 150, box.width - 300, box.height - 300});
+  text(*keyText,
+       "Super Vrask Plus: a click paints its square's four lines and takes four more squares "
+       "with it. A face takes the four connecting squares that stand on its edges toward the "
+       "cube before it in the ring; a connecting square takes the matching face of both its "
+       "cubes and two squares beside it.",
+       8);
+  for (Element* e : {&(*Shape2_)[0], &(*Shape2_)[1], Image1, keyText}) e->Visible = false;
+}
+
+void form5d2::addMenus() {
+  addGamesMenu();
+  addOptionsMenus();
+  otherGames_ = std::make_unique<OtherGames>(*this, OtherGamesNames{"cbm", "fcbm", "zcbm"});
+  addHelpAndExit();
+}
+
+void form5d2::addGamesMenu() {
+  ElementArray& gmm = addMenuArray("gmm", "", 1, 1);
+  gmm[1].Caption = "New Game";
+  gmzz = &addMenu("gmzz", "", "Games");
+  gm_ = &addMenuArray("gm", "gmzz", 0, 15);
+  for (Element& entry : *gm_) entry.Caption = "-";
+  for (const GameEntry& game : kGames) gm(game.index).Caption = game.caption;
+}
+
+// Players and options close with the first move of a round; the grid, the
+// keypad and the hints stay at hand.
+void form5d2::addOptionsMenus() {
+  pwm = &addMenu("pwm", "", "Players");
+  pl_ = &addMenuArray("pl", "pwm", 1, 2);
+  pl(1).Caption = "One player";
+  pl(2).Caption = "Two Player";
+  pl(1).Checked = true;
+  pme = &addMenu("pme", "", "Options");
+  hidmov = &addMenu("hidmov", "pme", "Hide non-scoring moves in Vrask games");
+  hnt = &addMenu("hnt", "pme", "Hint when no good moves left (computer)");
+  addMenu("hnts", "", "Hints");
+  shint = &addMenu("shint", "hnts", "Super Hint: How many non-scoring moves left (your turn)");
+  bhint = &addMenu("bhint", "hnts", "Best Hint: Tell you what non-scoring moves are left");
+  grid_ = std::make_unique<GridSwitch>(*this, "", [this](bool on) { shgrid_Click(on); });
+  addMenu("kpm", "", "Keypad");
+  keypad_ = std::make_unique<Keypad>(
+      *this, *grid_, [this] { Command3_Click(); },
+      KeypadConfig{.parentMenu = "kpm",
+                   .enterButton = "Command3",
+                   .openerButton = "Command4",
+                   .panel = {lay::kKeypadLeft, lay::kBandTop},
+                   .opener = {lay::kKeypadOpenerLeft, lay::kKeypadOpenerTop}});
+  addOnlineEntries(*this, "kpm");
+}
+
+void form5d2::addHelpAndExit() {
+  addMenu("hlp", "", "Help");
+  addHelpEntry(*this, "hmen", "hlp");
+  addAboutEntry(*this, "abt", "hlp");
+  addExitEntry(*this, "");
+}
+
+void form5d2::registerHandlers() {
+  handleIndexed("Label1_Click", [this](int i) { Label1_Click(i); });
+  handleIndexed("Label9_Click", [this](int i) { Label1_Click(i - 1); });
+  handleIndexed("Label11_Click", [this](int i) { Label11_Click(i); });
+  handleIndexed("gm_Click", [this](int i) { gm_Click(i); });
+  handleIndexed("pl_Click", [this](int) { pl_Click(); });
+  handleIndexed("gmm_Click", [this](int) { gmm_Click(); });
+  handle("Command1_Click", [this] { gmm_Click(); });
+  handle("hidmov_Click", [this] { hidmov->Checked = !hidmov->Checked; });
+  handle("hnt_Click", [this] { hintMenu_Click(*hnt, nullptr); });
+  handle("shint_Click", [this] { hintMenu_Click(*shint, Label34); });
+  handle("bhint_Click", [this] { hintMenu_Click(*bhint, List3); });
+}
+
+void form5d2::registerVariables() {
+  var("gamenum", gamenum);
+  var("movesleft", movesleft);
+  var("redtoplay", redtoplay);
+  var("firstturn", firstturn);
+  var("compbusy", compbusy);
+  var("overflag", overflag);
+  auto at = [](const auto& table) {
+    return [&table](int i) { return num(table.at(static_cast<size_t>(i))); };
+  };
+  varArray("lnown", 1, kLines, at(lnown));
+  varArray("sqtaken", 1, kSquares, at(sqtaken));
+  varArray("sqdone", 1, kSquares, at(sqdone));
+  varArray("sidecount", 1, kSquares, at(sidecount));
+  auto bySide = [](const auto& table) {
+    return [&table](int s, int k) {
+      return num(table.at(static_cast<size_t>(s)).at(static_cast<size_t>(k)));
+    };
+  };
+  varTable("sqln", {1, kSquares}, {1, 4}, bySide(sqln));
+  varTable("sqside", {1, kSquares}, {1, 4}, bySide(sqside));
+  varTable("plusnb", {1, kSquares}, {1, 4}, [this](int s, int k) {
+    return num(plusnb.at(static_cast<size_t>(s)).at(static_cast<size_t>(k - 1)));
+  });
+  varTable("lnnb", {1, kLines}, {1, 8}, [this](int slot, int j) {
+    const auto& neighbours = lnnb.at(static_cast<size_t>(slot));
+    return num(j <= static_cast<int>(neighbours.size()) ? neighbours[static_cast<size_t>(j - 1)]
+                                                        : 0);
+  });
+  varArray("candlist", 1, kLines, [this](int i) {
+    return num(i <= static_cast<int>(candlist.size()) ? candlist[static_cast<size_t>(i - 1)] : 0);
+  });
+}
+
+}  // namespace vrask
