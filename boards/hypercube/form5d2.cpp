@@ -27,8 +27,8 @@ constexpr int kPictureColour = 0x8C8C8C;
 constexpr int kPictureCaptionColour = 0x202020;
 // An open circle: pale, with the square's number in black on it.
 constexpr int kCircleColour = 0xE0F8FF;
-constexpr double kNumberSize = 7;
-constexpr double kCircleNumberSize = 7;
+constexpr double kNumberSize = 8;
+constexpr double kCircleNumberSize = 8;
 // The grid numbers of the lines that no rule gives a colour.
 constexpr int kOtherNumbers = color::Black;
 
