@@ -1,8 +1,22 @@
 #include "boards/hypercube/computer.h"
 
 #include <algorithm>
+#include <iterator>
+#include <ranges>
 
 namespace vrask::hypercube {
+
+namespace {
+
+// The free lines, ascending, that `risky` (by slot) does not mark.
+std::vector<int> freeLinesBut(const LineValues& lnown, const std::array<bool, kLines + 1>& risky) {
+  std::vector<int> lines;
+  std::ranges::copy_if(std::views::iota(1, kLines + 1), std::back_inserter(lines),
+                       [&](int slot) { return lnown.at(slot) == 0 && !risky.at(slot); });
+  return lines;
+}
+
+}  // namespace
 
 SquareValues countPaintedSides(const SideValues& sqside) {
   SquareValues counts{};
@@ -29,19 +43,11 @@ std::vector<int> safeLines(const SideTable& sqln, const SquareValues& sidecount,
     if (sidecount.at(s) != 2) continue;
     for (int k = 1; k <= 4; ++k) risky.at(sqln.at(s).at(k)) = true;
   }
-  std::vector<int> lines;
-  for (int slot = 1; slot <= kLines; ++slot) {
-    if (lnown.at(slot) == 0 && !risky.at(slot)) lines.push_back(slot);
-  }
-  return lines;
+  return freeLinesBut(lnown, risky);
 }
 
 std::vector<int> freeLines(const LineValues& lnown) {
-  std::vector<int> lines;
-  for (int slot = 1; slot <= kLines; ++slot) {
-    if (lnown.at(slot) == 0) lines.push_back(slot);
-  }
-  return lines;
+  return freeLinesBut(lnown, {});
 }
 
 int squareToTake(const SquareValues& sidecount, const SquareValues& sqtaken) {

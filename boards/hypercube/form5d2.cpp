@@ -52,6 +52,26 @@ void setLine(Element& e, const lay::Segment& s, int colour) {
   e.BorderColor = colour;
 }
 
+// A table of the game by its own indexes, 1 up (index 0 of the array is
+// unused), read live.
+template <size_t N>
+void exposeList(Form& form, const std::string& name, const std::array<int, N>& values) {
+  form.varArray(name, 1, static_cast<int>(N) - 1,
+                [&values](int i) { return num(values.at(static_cast<size_t>(i))); });
+}
+
+// A table of squares by their four sides, 1 to 4.
+void exposeSides(Form& form, const std::string& name, const SideTable& values) {
+  form.varTable(name, {1, kSquares}, {1, 4}, [&values](int s, int k) {
+    return num(values.at(static_cast<size_t>(s)).at(static_cast<size_t>(k)));
+  });
+}
+
+// Entry i (from 1) of a list, 0 past its end.
+int nth(const std::vector<int>& list, int i) {
+  return i <= static_cast<int>(list.size()) ? list.at(static_cast<size_t>(i - 1)) : 0;
+}
+
 // The line a number label belongs to: `Label9(n)` carries the number n of
 // the line of index n - 1, and `Label9(81)` the number 1 of index 0.
 int indexOfNumber(int n) {
@@ -83,7 +103,7 @@ void form5d2::Form_Load() {
   addMenus();
   roundList_ = std::make_unique<RoundList>(
       *this, RoundListConfig{
-                 .blueHeader = 7, .redHeader = 8, .place = {lay::kRoundListLeft, lay::kBandTop}});
+                 .blueHeader = 7, .redHeader = 8, .place = {lay::kRoundList.x, lay::kRoundList.y}});
   registerHandlers();
   registerVariables();
 
@@ -209,24 +229,26 @@ void form5d2::addLegend() {
 }
 
 void form5d2::addStatus() {
-  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 10, true);
-  Label33 = &text(placed(add("Label33", Kind::Label), lay::kStatus), "", 11, true);
+  const lay::StatusColumn& at = lay::kStatusColumn;
+  Label36 = &text(placed(add("Label36", Kind::Label), at.gameName), "", 10, true);
+  Label33 = &text(placed(add("Label33", Kind::Label), at.status), "", 11, true);
   // Its colour is the mover's, Black included, so it stands on white.
   Label33->BackStyle = 1;
   Label33->BackColor = color::White;
   Label33->ForeColor = color::Blue;
   Label33->Alignment = AlignCenter;
-  Label99 = &text(placed(add("Label99", Kind::Label), lay::kMovesLeft), "");
-  Label12 = &text(placed(add("Label12", Kind::Label), lay::kLastMove), kLastMove);
-  Command1 = &placed(add("Command1", Kind::Button), lay::kNewGame);
+  Label99 = &text(placed(add("Label99", Kind::Label), at.movesLeft), "");
+  Label12 = &text(placed(add("Label12", Kind::Label), at.lastMove), kLastMove);
+  Command1 = &placed(add("Command1", Kind::Button), at.newGame);
   Command1->Caption = "New game";
   Label15_ = &addArray("Label15", Kind::Label, 0, 3);
   for (Element& label : *Label15_) {
     int row = label.index / 2;
     int column = label.index % 2;
-    placed(text(label, column == 0 ? "GAME" : "OVER", 20, true),
-           {lay::kGameOverLeft + column * lay::kGameOverWidth,
-            lay::kGameOverTop + row * lay::kGameOverRow, lay::kGameOverWidth, lay::kGameOverRow});
+    const lay::Rect& cell = at.gameOverCell;
+    placed(
+        text(label, column == 0 ? "GAME" : "OVER", 20, true),
+        {cell.left + column * cell.width, cell.top + row * cell.height, cell.width, cell.height});
     label.ForeColor = color::Red;
     label.Alignment = AlignCenter;
     label.Visible = false;
@@ -258,15 +280,13 @@ void form5d2::addScores() {
        {headings[1], *Label444, *Label6, *Label3_, "Red", color::Red, kDarkRed}}};
   for (size_t i = 0; i < sides.size(); ++i) {
     Side& side = sides.at(i);
-    double left = lay::kScoreLeft + lay::kScoreGap * static_cast<double>(i);
-    placed(text(side.heading, side.name, 10, true),
-           {left, lay::kScoreHeadingTop, lay::kScoreWidth, lay::kRowHeight});
-    placed(side.swatch, {left + 120, lay::kScoreHeadingTop + 50, lay::kSwatch, lay::kSwatch});
-    side.swatch.BackColor = side.swatchColour;
-    placed(text(side.points, "0", 26, true),
-           {left, lay::kScoreTop, lay::kScoreWidth, lay::kScoreHeight});
-    placed(text(side.yourTurn, kYourTurn, 10, true),
-           {left, lay::kYourTurnTop, lay::kScoreWidth, lay::kRowHeight});
+    const lay::ScoreColumns& at = lay::kScores;
+    double left = at.left + at.gap * static_cast<double>(i);
+    auto shifted = [left](lay::Rect r) { return r.left += left, r; };
+    placed(text(side.heading, side.name, 10, true), shifted(at.heading));
+    placed(side.swatch, shifted(at.swatch)).BackColor = side.swatchColour;
+    placed(text(side.points, "0", 26, true), shifted(at.points));
+    placed(text(side.yourTurn, kYourTurn, 10, true), shifted(at.yourTurn));
     for (Element* e : {&side.heading, &side.points, &side.yourTurn}) {
       e->ForeColor = side.colour;
       e->Alignment = AlignCenter;
@@ -336,11 +356,12 @@ void form5d2::addOptionsMenus() {
   addMenu("kpm", "", "Keypad");
   keypad_ = std::make_unique<Keypad>(
       *this, *grid_, [this] { Command3_Click(); },
-      KeypadConfig{.parentMenu = "kpm",
-                   .enterButton = "Command3",
-                   .openerButton = "Command4",
-                   .panel = {lay::kKeypadLeft, lay::kBandTop},
-                   .opener = {lay::kKeypadOpenerLeft, lay::kKeypadOpenerTop}});
+      KeypadConfig{
+          .parentMenu = "kpm",
+          .enterButton = "Command3",
+          .openerButton = "Command4",
+          .panel = {lay::kKeypad.x, lay::kKeypad.y},
+          .opener = {lay::kStatusColumn.keypadOpener.x, lay::kStatusColumn.keypadOpener.y}});
   addOnlineEntries(*this, "kpm");
 }
 
@@ -366,37 +387,26 @@ void form5d2::registerHandlers() {
 }
 
 void form5d2::registerVariables() {
-  var("gamenum", gamenum);
-  var("movesleft", movesleft);
-  var("redtoplay", redtoplay);
-  var("firstturn", firstturn);
-  var("compbusy", compbusy);
-  var("overflag", overflag);
-  auto at = [](const auto& table) {
-    return [&table](int i) { return num(table.at(static_cast<size_t>(i))); };
-  };
-  varArray("lnown", 1, kLines, at(lnown));
-  varArray("sqtaken", 1, kSquares, at(sqtaken));
-  varArray("sqdone", 1, kSquares, at(sqdone));
-  varArray("sidecount", 1, kSquares, at(sidecount));
-  auto bySide = [](const auto& table) {
-    return [&table](int s, int k) {
-      return num(table.at(static_cast<size_t>(s)).at(static_cast<size_t>(k)));
-    };
-  };
-  varTable("sqln", {1, kSquares}, {1, 4}, bySide(sqln));
-  varTable("sqside", {1, kSquares}, {1, 4}, bySide(sqside));
+  for (auto [name, value] : {std::pair{"gamenum", &gamenum},
+                             {"movesleft", &movesleft},
+                             {"redtoplay", &redtoplay},
+                             {"firstturn", &firstturn},
+                             {"compbusy", &compbusy},
+                             {"overflag", &overflag}}) {
+    var(name, *value);
+  }
+  exposeList(*this, "lnown", lnown);
+  exposeList(*this, "sqtaken", sqtaken);
+  exposeList(*this, "sqdone", sqdone);
+  exposeList(*this, "sidecount", sidecount);
+  exposeSides(*this, "sqln", sqln);
+  exposeSides(*this, "sqside", sqside);
   varTable("plusnb", {1, kSquares}, {1, 4}, [this](int s, int k) {
     return num(plusnb.at(static_cast<size_t>(s)).at(static_cast<size_t>(k - 1)));
   });
-  varTable("lnnb", {1, kLines}, {1, 8}, [this](int slot, int j) {
-    const auto& neighbours = lnnb.at(static_cast<size_t>(slot));
-    return num(j <= static_cast<int>(neighbours.size()) ? neighbours[static_cast<size_t>(j - 1)]
-                                                        : 0);
-  });
-  varArray("candlist", 1, kLines, [this](int i) {
-    return num(i <= static_cast<int>(candlist.size()) ? candlist[static_cast<size_t>(i - 1)] : 0);
-  });
+  varTable("lnnb", {1, kLines}, {1, 8},
+           [this](int slot, int j) { return num(nth(lnnb.at(slot), j)); });
+  varArray("candlist", 1, kLines, [this](int i) { return num(nth(candlist, i)); });
 }
 
 }  // namespace vrask

@@ -2,6 +2,7 @@
 // line games, the most painted free square in the square games, a line at
 // random in the Line Vrask games. `computer.h` holds its decisions; these are
 // its moves, with their pauses. The hint list counts as it does.
+#include <array>
 #include <string>
 
 #include "boards/hypercube/captions.h"
@@ -15,6 +16,7 @@ using namespace hypercube;
 namespace {
 
 constexpr double kBlink = 1;
+constexpr std::array<int, 4> kBlinks{color::Yellow, kDarkRed, color::Yellow, kDarkRed};
 constexpr double kSquarePause = 2;
 constexpr double kBeforeTheEnd = 4;
 constexpr double kLineVraskPause = 2;
@@ -56,7 +58,7 @@ void form5d2::compmov(int windex) {
   redtoplay = 0;
   lnown.at(windex) = kRedCode;
   paintSides(windex, kRedCode);
-  for (int colour : {color::Yellow, kDarkRed, color::Yellow, kDarkRed}) {
+  for (int colour : kBlinks) {
     Refresh();
     wait(kBlink);
     paintLine(windex, kPainted, colour);

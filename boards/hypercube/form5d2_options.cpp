@@ -100,11 +100,9 @@ void form5d2::gmm_Click() {
 }
 
 void form5d2::resetRound() {
-  lnown = {};
-  sqside = {};
-  sqtaken = {};
-  sqdone = {};
-  sidecount = {};
+  lnown.fill(0);
+  for (auto* table : {&sqtaken, &sqdone, &sidecount}) table->fill(0);
+  sqside.fill({});
   candlist.clear();
   compbusy = 0;
   overflag = 0;

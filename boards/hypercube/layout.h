@@ -83,39 +83,48 @@ inline constexpr double kLegendStep = 540;
 // The first-time hint under the legend, until the first move.
 inline constexpr Rect kFirstTimeHint{60, 2700, 1620, 1800};
 
-// The band below the pictures.
+// The band below the pictures, from the left: the status column, the
+// scores with the hints under them, the key of Super Vrask Plus, the keypad
+// and the round list.
 inline constexpr double kBandTop = 8700;
 inline constexpr double kRowHeight = 285;
-inline constexpr Rect kGameName{240, kBandTop, 4200, 300};
-inline constexpr Rect kStatus{240, kBandTop + 330, 4200, 540};
-inline constexpr Rect kMovesLeft{240, kBandTop + 930, 2000, kRowHeight};
-inline constexpr Rect kLastMove{2280, kBandTop + 930, 2160, kRowHeight};
-inline constexpr Rect kNewGame{240, kBandTop + 1320, 1500, 420};
-inline constexpr double kKeypadOpenerLeft = 1920;
-inline constexpr double kKeypadOpenerTop = kBandTop + 1342;
-// "GAME" "OVER" twice, in two rows under New.
-inline constexpr double kGameOverLeft = 240;
-inline constexpr double kGameOverTop = kBandTop + 1860;
-inline constexpr double kGameOverWidth = 2100;
-inline constexpr double kGameOverRow = 540;
 
-// The scores: a heading with the side's colour swatch, the points, "Your
-// turn".
-inline constexpr double kScoreLeft = 4680;
-inline constexpr double kScoreWidth = 1500;
-inline constexpr double kScoreGap = 1620;
-inline constexpr double kScoreHeadingTop = kBandTop;
-inline constexpr double kSwatch = 180;
-inline constexpr double kScoreTop = kBandTop + 330;
-inline constexpr double kScoreHeight = 720;
-inline constexpr double kYourTurnTop = kBandTop + 1080;
+// The game's name, the status, moves left and the last move, New with the
+// keypad's opener beside it, and "GAME" "OVER" twice in two rows under them.
+struct StatusColumn {
+  Rect gameName, status, movesLeft, lastMove, newGame;
+  Point keypadOpener;
+  Rect gameOverCell;  // the first of the four; the others to its right and below
+};
+inline constexpr StatusColumn kStatusColumn{
+    .gameName{240, kBandTop, 4200, 300},
+    .status{240, kBandTop + 330, 4200, 540},
+    .movesLeft{240, kBandTop + 930, 2000, kRowHeight},
+    .lastMove{2280, kBandTop + 930, 2160, kRowHeight},
+    .newGame{240, kBandTop + 1320, 1500, 420},
+    .keypadOpener{1920, kBandTop + 1342},
+    .gameOverCell{240, kBandTop + 1860, 2100, 540},
+};
 
-// The hints and the key of Super Vrask Plus.
+// Blue's column and Red's beside it: a heading with a colour swatch, the
+// points, "Your turn".
+struct ScoreColumns {
+  double left, width, gap;
+  Rect heading, swatch, points, yourTurn;  // Blue's, relative to `left`
+};
+inline constexpr ScoreColumns kScores{.left = 4680,
+                                      .width = 1500,
+                                      .gap = 1620,
+                                      .heading{0, kBandTop, 1500, kRowHeight},
+                                      .swatch{120, kBandTop + 50, 180, 180},
+                                      .points{0, kBandTop + 330, 1500, 720},
+                                      .yourTurn{0, kBandTop + 1080, 1500, kRowHeight}};
+
+// The hints: the count of safe lines, and their list.
 inline constexpr Rect kSafeCount{4680, kBandTop + 1500, 3060, kRowHeight};
 inline constexpr Rect kSafeList{4680, kBandTop + 1800, 1200, 1200};
 inline constexpr Rect kKey{8040, kBandTop, 3000, 2700};
-
-inline constexpr double kKeypadLeft = 11280;
-inline constexpr double kRoundListLeft = 13380;
+inline constexpr Point kKeypad{11280, kBandTop};
+inline constexpr Point kRoundList{13380, kBandTop};
 
 }  // namespace vrask::hypercube::layout

@@ -15,13 +15,17 @@
 
 namespace vrask::hypercube {
 
-inline constexpr int kLines = 80;
-inline constexpr int kSquares = 72;
-inline constexpr int kCubes = 4;
-inline constexpr int kEdges = 12;
-inline constexpr int kCorners = 8;
-inline constexpr int kFaces = 6;
-inline constexpr int kCubeLines = kCubes * kEdges;  // the connectors follow
+// How many of each the board has; the connectors' indexes follow the cube
+// lines'.
+enum Counts : int {
+  kLines = 80,
+  kSquares = 72,
+  kCubes = 4,
+  kEdges = 12,
+  kCorners = 8,
+  kFaces = 6,
+  kCubeLines = kCubes * kEdges,
+};
 
 // Cubes by the number their lines are counted with (index = 12 c + e).
 enum Cube { Blue = 0, Black = 1, White = 2, Red = 3 };
