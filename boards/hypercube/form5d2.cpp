@@ -93,8 +93,9 @@ void form5d2::Form_Load() {
   designColour_ = designColours();
   addPictures();
   addSegments();
-  addSquares();
   addHitAreas();
+  // Circles over the numbers: Zorvex Squares shows the line numbers.
+  addSquares();
   addLegend();
   addStatus();
   addScores();
