@@ -166,6 +166,7 @@ class form5d2 : public Form {
   int firstturn = 0;
   int compbusy = 0;
   int overflag = 0;
+  int flashing = 0;  // 1 while a finished square shows, which lets events in
   hypercube::SideTable sqln{};
   hypercube::LinePlaces places_{};
   hypercube::LineNeighbours lnnb{};

@@ -93,8 +93,10 @@ void form5d2::hintMenu_Click(Element& entry, Element* shows) {
   if (shows != nullptr) shows->Visible = entry.Checked;
 }
 
-// New: the round's whole state back to the start, then who opens.
+// New: the round's whole state back to the start, then who opens. Not
+// while a finished square shows: the move that finished it is still running.
 void form5d2::gmm_Click() {
+  if (flashing == 1) return;
   resetRound();
   openRound();
 }

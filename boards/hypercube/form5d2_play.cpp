@@ -28,7 +28,7 @@ int slotOfClick(int Index) {
 
 // A line game move: the mover's line, judged at once.
 void form5d2::Label1_Click(int Index) {
-  if (compbusy == 1) return;
+  if (compbusy == 1 || flashing == 1) return;
   if (lineVraskGame()) {
     linevrask(Index);
     return;
@@ -123,7 +123,7 @@ void form5d2::passTurn() {
 // The keypad's Enter: the number typed plays as a click on that line or
 // circle. A number out of range, or not a whole number, is dropped.
 void form5d2::Command3_Click() {
-  if (compbusy == 1) return;
+  if (compbusy == 1 || flashing == 1) return;
   Element& box = keypad_->text();
   double n = Val(box.Text);
   bool whole = std::floor(n) == n;

@@ -50,6 +50,9 @@ void form5d2::checkwins() {
     }
   }
   announceLineScore(n);
+  // The flash lets events through; a line clicked meanwhile is held out, the
+  // computer's captures by `compbusy` and a person's own by `flashing`.
+  flashing = 1;
   for (int square : finished) {
     sqflash(square);
     Refresh();
@@ -57,6 +60,7 @@ void form5d2::checkwins() {
     sqpaint(square);
     Refresh();
   }
+  flashing = 0;
   if (movesleft < 1) {
     endOfRound();
   } else if (onePlayer() && redtoplay == 1 && !dorvel) {
