@@ -5,32 +5,30 @@
 #include "boards/hypercube/captions.h"
 #include "boards/hypercube/layout.h"
 #include "boards/hypercube/look.h"
-#include "frame/grid_switch.h"
 #include "frame/helpers.h"
-#include "frame/keypad.h"
-#include "frame/other_games.h"
-#include "frame/round_list.h"
 #include "frame/session_menu.h"
 #include "launcher/shared_state.h"
 
 namespace vrask {
 
-using namespace hypercube;
 namespace lay = hypercube::layout;
+using namespace hypercube;
 
 namespace {
 
-// A light grey behind the band of controls, a mid grey behind the pictures:
-// the white, black, blue and dark red cubes all show on it.
-constexpr int kFormColour = 0xC8C8C8;
-constexpr int kPictureColour = 0x8C8C8C;
-constexpr int kPictureCaptionColour = 0x202020;
-// An open circle: pale, with the square's number in black on it.
-constexpr int kCircleColour = 0xE0F8FF;
+// A light grey behind the band of controls, a mid grey behind the pictures
+// (the white, black, blue and dark red cubes all show on it), an open circle
+// pale with the square's number in black on it, and black for the grid
+// numbers of the lines that no rule gives a colour.
+enum Palette : int {
+  kFormColour = 0xC8C8C8,
+  kPictureColour = 0x8C8C8C,
+  kPictureCaptionColour = 0x202020,
+  kCircleColour = 0xE0F8FF,
+  kOtherNumbers = color::Black,
+};
+// The grid numbers, on the lines and on the circles.
 constexpr double kNumberSize = 8;
-constexpr double kCircleNumberSize = 8;
-// The grid numbers of the lines that no rule gives a colour.
-constexpr int kOtherNumbers = color::Black;
 
 Element& placed(Element& e, const lay::Rect& r) {
   return vrask::placed(e, r.left, r.top, r.width, r.height);
@@ -80,10 +78,6 @@ int indexOfNumber(int n) {
 
 }  // namespace
 
-form5d2::form5d2(Program& program) : Form(program, "form5d2") {}
-
-form5d2::~form5d2() = default;
-
 void form5d2::Form_Load() {
   Caption = shared().product_title;
   Width = lay::kFormWidth;
@@ -102,7 +96,7 @@ void form5d2::Form_Load() {
   addHints();
   addKey();
   addMenus();
-  roundList_ = std::make_unique<RoundList>(
+  roundList_.emplace(
       *this, RoundListConfig{
                  .blueHeader = 7, .redHeader = 8, .place = {lay::kRoundList.x, lay::kRoundList.y}});
   registerHandlers();
@@ -182,7 +176,7 @@ void form5d2::addSquares() {
   }
   Label11_ = &addArray("Label11", Kind::Label, 1, kSquares);
   for (Element& circle : *Label11_) {
-    placed(text(circle, "", kCircleNumberSize, true), lay::circleAt(circle.index));
+    placed(text(circle, "", kNumberSize, true), lay::circleAt(circle.index));
     circle.Alignment = AlignCenter;
     circle.ForeColor = color::Black;
     circle.Visible = false;
@@ -265,20 +259,16 @@ void form5d2::addScores() {
   Label444 = &add("Label444", Kind::Label);
   Label5 = &add("Label5", Kind::Label);
   Label6 = &add("Label6", Kind::Label);
-  Label4_ = &add("Label4", Kind::Label);
-  Label3_ = &add("Label3", Kind::Label);
+  Label4 = &add("Label4", Kind::Label);
+  Label3 = &add("Label3", Kind::Label);
   struct Side {
-    Element& heading;
-    Element& swatch;
-    Element& points;
-    Element& yourTurn;
+    Element &heading, &swatch, &points, &yourTurn;
     const char* name;
-    int colour;
-    int swatchColour;
+    int colour, swatchColour;
   };
   std::array<Side, 2> sides{
-      {{headings[0], *Label333, *Label5, *Label4_, "Blue", color::Blue, color::Blue},
-       {headings[1], *Label444, *Label6, *Label3_, "Red", color::Red, kDarkRed}}};
+      {{headings[0], *Label333, *Label5, *Label4, "Blue", color::Blue, color::Blue},
+       {headings[1], *Label444, *Label6, *Label3, "Red", color::Red, kDarkRed}}};
   for (size_t i = 0; i < sides.size(); ++i) {
     Side& side = sides.at(i);
     const lay::ScoreColumns& at = lay::kScores;
@@ -293,7 +283,7 @@ void form5d2::addScores() {
       e->Alignment = AlignCenter;
     }
   }
-  Label3_->Visible = false;
+  Label3->Visible = false;
 }
 
 void form5d2::addHints() {
@@ -323,11 +313,15 @@ void form5d2::addKey() {
   for (Element* e : {&(*Shape2_)[0], &(*Shape2_)[1], Image1, keyText}) e->Visible = false;
 }
 
+// Help, About and Exit stay at hand during a round, as do the other boards.
 void form5d2::addMenus() {
   addGamesMenu();
   addOptionsMenus();
-  otherGames_ = std::make_unique<OtherGames>(*this, OtherGamesNames{"cbm", "fcbm", "zcbm"});
-  addHelpAndExit();
+  otherGames_.emplace(*this, OtherGamesNames{"cbm", "fcbm", "zcbm"});
+  addMenu("hlp", "", "Help");
+  addHelpEntry(*this, "hmen", "hlp");
+  addAboutEntry(*this, "abt", "hlp");
+  addExitEntry(*this, "");
 }
 
 void form5d2::addGamesMenu() {
@@ -353,9 +347,9 @@ void form5d2::addOptionsMenus() {
   addMenu("hnts", "", "Hints");
   shint = &addMenu("shint", "hnts", "Super Hint: How many non-scoring moves left (your turn)");
   bhint = &addMenu("bhint", "hnts", "Best Hint: Tell you what non-scoring moves are left");
-  grid_ = std::make_unique<GridSwitch>(*this, "", [this](bool on) { shgrid_Click(on); });
+  grid_.emplace(*this, "", [this](bool on) { shgrid_Click(on); });
   addMenu("kpm", "", "Keypad");
-  keypad_ = std::make_unique<Keypad>(
+  keypad_.emplace(
       *this, *grid_, [this] { Command3_Click(); },
       KeypadConfig{
           .parentMenu = "kpm",
@@ -364,13 +358,6 @@ void form5d2::addOptionsMenus() {
           .panel = {lay::kKeypad.x, lay::kKeypad.y},
           .opener = {lay::kStatusColumn.keypadOpener.x, lay::kStatusColumn.keypadOpener.y}});
   addOnlineEntries(*this, "kpm");
-}
-
-void form5d2::addHelpAndExit() {
-  addMenu("hlp", "", "Help");
-  addHelpEntry(*this, "hmen", "hlp");
-  addAboutEntry(*this, "abt", "hlp");
-  addExitEntry(*this, "");
 }
 
 void form5d2::registerHandlers() {

@@ -12,25 +12,20 @@
 // form5d2_computer.cpp (the computer's moves and the hint list).
 #pragma once
 
-#include <array>
-#include <memory>
-#include <vector>
+#include <optional>
 
 #include "boards/hypercube/computer.h"
-#include "boards/hypercube/tables.h"
+#include "frame/grid_switch.h"
+#include "frame/keypad.h"
+#include "frame/other_games.h"
+#include "frame/round_list.h"
 #include "toolkit/form.h"
 
 namespace vrask {
 
-class GridSwitch;
-class Keypad;
-class OtherGames;
-class RoundList;
-
 class form5d2 : public Form {
  public:
-  explicit form5d2(Program& program);
-  ~form5d2() override;
+  explicit form5d2(Program& program) : Form(program, "form5d2") {}
   void Form_Load() override;
 
  private:
@@ -47,7 +42,6 @@ class form5d2 : public Form {
   void addMenus();
   void addGamesMenu();
   void addOptionsMenus();
-  void addHelpAndExit();
   void registerHandlers();
   void registerVariables();
 
@@ -96,63 +90,39 @@ class form5d2 : public Form {
   void computerSquareMove();
   void computerLineVraskMove();
 
-  // --- elements by the board's own names ----------------------------------
+  // --- elements by the board's own names, and what the rules ask of them ---
   Element& Label1(int i) { return (*Label1_)[i]; }
-  Element& Label3() { return *Label3_; }
-  Element& Label4() { return *Label4_; }
   Element& Label9(int i) { return (*Label9_)[i]; }
-  Element& Label10(int i) { return (*Label10_)[i]; }
-  Element& Label11(int i) { return (*Label11_)[i]; }
-  Element& Label15(int i) { return (*Label15_)[i]; }
-  Element& Shape1(int i) { return (*Shape1_)[i]; }
-  Element& gm(int i) { return (*gm_)[i]; }
-  Element& pl(int i) { return (*pl_)[i]; }
   // The number label of a line, by its slot.
   Element& numberOf(int slot) { return Label9(slot == hypercube::kLines ? 81 : slot + 1); }
+  Element& Label11(int i) { return (*Label11_)[i]; }
+  Element& Shape1(int i) { return (*Shape1_)[i]; }
+  bool roundOver() const { return (*Label15_)[0].Visible; }
+  Element& Label10(int i) { return (*Label10_)[i]; }
+  Element& gm(int i) { return (*gm_)[i]; }
+  Element& pl(int i) { return (*pl_)[i]; }
   bool onePlayer() const { return (*pl_)[1].Checked; }
   bool lineGame() const { return gamenum <= 2; }
   bool lineVraskGame() const { return gamenum == 8 || gamenum == 15; }
   bool squareGame() const { return !lineGame() && !lineVraskGame(); }
   bool plusGame() const { return gamenum >= 11 && gamenum <= 13; }
   bool classicGame() const { return gamenum == 4 || gamenum == 11; }
-  bool roundOver() const { return (*Label15_)[0].Visible; }
 
-  ElementArray* Label1_ = nullptr;
-  ElementArray* Label9_ = nullptr;
-  ElementArray* Label10_ = nullptr;
-  ElementArray* Label11_ = nullptr;
-  ElementArray* Label15_ = nullptr;
-  ElementArray* Shape1_ = nullptr;
-  ElementArray* Shape2_ = nullptr;
-  ElementArray* gm_ = nullptr;
-  ElementArray* pl_ = nullptr;
-  Element* Label3_ = nullptr;
-  Element* Label4_ = nullptr;
-  Element* Label5 = nullptr;
-  Element* Label6 = nullptr;
-  Element* Label12 = nullptr;
-  Element* Label33 = nullptr;
-  Element* Label34 = nullptr;
-  Element* Label36 = nullptr;
-  Element* Label99 = nullptr;
-  Element* Label333 = nullptr;
-  Element* Label444 = nullptr;
-  Element* List3 = nullptr;
-  Element* Image1 = nullptr;
-  Element* keyText = nullptr;
-  Element* Command1 = nullptr;
-  Element* pwm = nullptr;
-  Element* gmzz = nullptr;
-  Element* pme = nullptr;
-  Element* hidmov = nullptr;
-  Element* hnt = nullptr;
-  Element* shint = nullptr;
-  Element* bhint = nullptr;
+  // Arrays and single elements the code reaches often, found once at load.
+  ElementArray *Label1_{}, *Label9_{}, *Label10_{}, *Label11_{}, *Label15_{};
+  ElementArray *Shape1_{}, *Shape2_{}, *gm_{}, *pl_{};
+  Element *Label3{}, *Label4{}, *Label5{}, *Label6{}, *Label12{}, *Label33{};
+  Element *Label34{}, *Label36{}, *Label99{}, *Label333{}, *Label444{}, *List3{};
+  Element *Image1{}, *keyText{}, *Command1{};
+  // The menus that close with the first move, and the options read by the
+  // rules.
+  Element *pwm{}, *gmzz{}, *pme{}, *hidmov{}, *hnt{}, *shint{}, *bhint{};
 
-  std::unique_ptr<GridSwitch> grid_;
-  std::unique_ptr<Keypad> keypad_;
-  std::unique_ptr<OtherGames> otherGames_;
-  std::unique_ptr<RoundList> roundList_;
+  // What every board carries, made at load in the order of its menus.
+  std::optional<GridSwitch> grid_;
+  std::optional<Keypad> keypad_;
+  std::optional<OtherGames> otherGames_;
+  std::optional<RoundList> roundList_;
 
   // The drawn segments of each line (slots 1..80): four for a cube line,
   // three for a connector.
@@ -160,22 +130,21 @@ class form5d2 : public Form {
   std::array<int, hypercube::kLines + 1> designColour_{};
 
   // --- the game -------------------------------------------------------------
-  int gamenum = 1;
-  int movesleft = hypercube::kLines;
-  int redtoplay = 0;
-  int firstturn = 0;
-  int compbusy = 0;
-  int overflag = 0;
-  int flashing = 0;  // 1 while a finished square shows, which lets events in
+  // The board's tables, built at load, then the round on them.
   hypercube::SideTable sqln{};
   hypercube::LinePlaces places_{};
   hypercube::LineNeighbours lnnb{};
   hypercube::PlusNeighbours plusnb{};
+  int gamenum = 1;
+  int movesleft = hypercube::kLines;
   hypercube::LineValues lnown{};
   hypercube::SideValues sqside{};
-  hypercube::SquareValues sqtaken{};
-  hypercube::SquareValues sqdone{};
-  hypercube::SquareValues sidecount{};
+  hypercube::SquareValues sqtaken{}, sqdone{}, sidecount{};
+  // 1 when Red moves next in the line games; who opens the next round.
+  int redtoplay = 0, firstturn = 0;
+  // 1 while the computer captures; 1 once the round's end is written.
+  int compbusy = 0, overflag = 0;
+  int flashing = 0;  // 1 while a finished square shows, which lets events in
   std::vector<int> candlist;
   // The colours `sqflash` notes for the four sides of the square it shows.
   std::array<int, 5> flashColours_{};

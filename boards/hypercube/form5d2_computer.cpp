@@ -47,8 +47,8 @@ void form5d2::computerLineMove() {
   compmov(slot);
   Label33->ForeColor = color::Blue;
   Label33->Caption = "No score    Blue's turn.";
-  Label4().Visible = true;
-  Label3().Visible = false;
+  Label4->Visible = true;
+  Label3->Visible = false;
 }
 
 // The computer's line blinks yellow and dark red for four seconds and stays
@@ -96,8 +96,8 @@ void form5d2::computerSquareMove() {
   wait(kSquarePause);
   Label33->ForeColor = color::Red;
   Label33->Caption = kRedsTurn;
-  Label4().Visible = false;
-  Label3().Visible = true;
+  Label4->Visible = false;
+  Label3->Visible = true;
   for (int k = 1; k <= 4; ++k) paintLine(sqln.at(square).at(k), kPainted, color::Yellow);
   Label12->Caption = kLastMove + std::to_string(square);
   Label11(square).Visible = false;
@@ -121,8 +121,8 @@ void form5d2::computerSquareMove() {
   }
   Label33->ForeColor = color::Blue;
   Label33->Caption = kBluesTurn;
-  Label4().Visible = true;
-  Label3().Visible = false;
+  Label4->Visible = true;
+  Label3->Visible = false;
   judge();
   if (movesleft < 1 && overflag == 0) {
     wait(kBeforeTheEnd);

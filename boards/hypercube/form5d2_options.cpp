@@ -44,8 +44,8 @@ void form5d2::gm_Click(int Index) {
   Label36->Caption = gameName(Index);
   if (Index == 0) {
     Label33->ForeColor = color::Blue;
-    Label4().Visible = true;
-    Label3().Visible = false;
+    Label4->Visible = true;
+    Label3->Visible = false;
     redtoplay = 0;
   }
   // The key of Super Vrask Plus shows in its three games only.
@@ -152,8 +152,8 @@ void form5d2::openRound() {
   if (!onePlayer()) return;
   Label33->ForeColor = color::Red;
   Label33->Caption = kRedsTurn;
-  Label4().Visible = false;
-  Label3().Visible = true;
+  Label4->Visible = false;
+  Label3->Visible = true;
   pl_Click();
   if (squareGame()) {
     Label11_Click(pick(kSquares));

@@ -116,8 +116,8 @@ void form5d2::passTurn() {
   bool blueNext = Label33->ForeColor == color::Red;
   Label33->ForeColor = blueNext ? color::Blue : color::Red;
   Label33->Caption = blueNext ? kBluesTurn : kRedsTurn;
-  Label4().Visible = blueNext;
-  Label3().Visible = !blueNext;
+  Label4->Visible = blueNext;
+  Label3->Visible = !blueNext;
 }
 
 // The keypad's Enter: the number typed plays as a click on that line or

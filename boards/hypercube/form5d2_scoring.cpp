@@ -92,8 +92,8 @@ void form5d2::announceLineScore(int n) {
   if (n == 0) {
     Label33->Caption = std::string("No score    ") + (redNext ? "Red" : "Blue") + "'s turn.";
     Label33->ForeColor = redNext ? color::Red : color::Blue;
-    Label3().Visible = redNext;
-    Label4().Visible = !redNext;
+    Label3->Visible = redNext;
+    Label4->Visible = !redNext;
     return;
   }
   if (n >= 2) {
