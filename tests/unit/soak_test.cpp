@@ -157,7 +157,8 @@ class SoakPlayer {
     int n = roll <= 2   ? all.lo() + chance(all.hi() - all.lo() + 1) - 1
             : roll == 4 ? 0
                         : pick(k, roll != 3);
-    std::string text = roll != 4  ? std::to_string(n)
+    const MoveKind& moveKind = play_.kinds.at(k);
+    std::string text = roll != 4  ? std::to_string(moveKind.typed ? moveKind.typed(n) : n)
                        : oneIn(2) ? std::to_string(all.hi() + chance(200))
                                   : kJunk[static_cast<size_t>(chance(7) - 1)];
     if (roll == 4 && !typed) return;
