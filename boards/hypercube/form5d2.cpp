@@ -30,26 +30,6 @@ enum Palette : int {
 // The grid numbers, on the lines and on the circles.
 constexpr double kNumberSize = 8;
 
-Element& placed(Element& e, const lay::Rect& r) {
-  return vrask::placed(e, r.left, r.top, r.width, r.height);
-}
-
-Element& text(Element& e, const std::string& caption, double fontSize = 9, bool bold = false) {
-  e.Caption = caption;
-  e.FontSize = fontSize;
-  e.FontBold = bold;
-  e.BackStyle = 0;
-  return e;
-}
-
-void setLine(Element& e, const lay::Segment& s, int colour) {
-  e.X1 = s.from.x;
-  e.Y1 = s.from.y;
-  e.X2 = s.to.x;
-  e.Y2 = s.to.y;
-  e.BorderColor = colour;
-}
-
 // A table of the game by its own indexes, 1 up (index 0 of the array is
 // unused), read live.
 template <size_t N>
@@ -79,7 +59,7 @@ int indexOfNumber(int n) {
 }  // namespace
 
 void form5d2::Form_Load() {
-  Caption = shared().product_title;
+  Caption = shared().text(shared::kProductTitle);
   Width = lay::kFormWidth;
   Height = lay::kFormHeight;
   openAboveCentre = 300;
@@ -99,6 +79,13 @@ void form5d2::Form_Load() {
   roundList_.emplace(
       *this, RoundListConfig{
                  .blueHeader = 7, .redHeader = 8, .place = {lay::kRoundList.x, lay::kRoundList.y}});
+  flow_.emplace(*this, *roundList_, *keypad_,
+                TurnFlowNames{.bluePoints{"Label5", std::nullopt},
+                              .redPoints{"Label6", std::nullopt},
+                              .blueTurn{"Label4", std::nullopt},
+                              .redTurn{"Label3", std::nullopt},
+                              .lastMove = "Label12",
+                              .gameMenus{"pwm", "gmzz", "pme"}});
   registerHandlers();
   registerVariables();
 
@@ -127,7 +114,7 @@ void form5d2::addPictures() {
   for (int i = 0; i < 8; ++i) {
     const lay::Picture& p = lay::kPictures.at(i);
     placed(pictures[i], p.box).BackColor = kPictureColour;
-    placed(text(captions[i], p.caption, 9, true),
+    placed(captioned(captions[i], p.caption, 9, true),
            {p.box.left, p.box.top, p.box.width, lay::kPictureCaptionHeight})
         .Alignment = AlignCenter;
     captions[i].ForeColor = kPictureCaptionColour;
@@ -145,7 +132,7 @@ void form5d2::addSegments() {
       int slot = slotOf(cubeLine(c, e));
       for (int set : lay::kSegmentSets) {
         Element& segment = edge[10 * c + set];
-        setLine(segment, lay::cubeSegment(e, 10 * c + set), designColour_.at(slot));
+        placedLine(segment, lay::cubeSegment(e, 10 * c + set)).BorderColor = designColour_.at(slot);
         segment.Visible = true;
         segments_.at(slot).push_back(&segment);
       }
@@ -156,7 +143,8 @@ void form5d2::addSegments() {
       int index = kSteps.at(step).base + k;
       ElementArray& connector = addArray(segmentArrayName(index), Kind::Line, 0, 2);
       for (Element& segment : connector) {
-        setLine(segment, lay::connectorSegment(step, k, segment.index), designColour_.at(index));
+        placedLine(segment, lay::connectorSegment(step, k, segment.index)).BorderColor =
+            designColour_.at(index);
         segments_.at(index).push_back(&segment);
       }
     }
@@ -176,7 +164,7 @@ void form5d2::addSquares() {
   }
   Label11_ = &addArray("Label11", Kind::Label, 1, kSquares);
   for (Element& circle : *Label11_) {
-    placed(text(circle, "", kNumberSize, true), lay::circleAt(circle.index));
+    placed(captioned(circle, "", kNumberSize, true), lay::circleAt(circle.index));
     circle.Alignment = AlignCenter;
     circle.ForeColor = color::Black;
     circle.Visible = false;
@@ -197,7 +185,7 @@ void form5d2::addHitAreas() {
   Label9_ = &addArray("Label9", Kind::Label, 2, 81);
   for (Element& number : *Label9_) {
     int index = indexOfNumber(number.index);
-    placed(text(number, std::to_string(index + 1), kNumberSize, true), lay::hitArea(index));
+    placed(captioned(number, std::to_string(index + 1), kNumberSize, true), lay::hitArea(index));
     number.Alignment = AlignCenter;
     number.Visible = false;
   }
@@ -211,7 +199,7 @@ void form5d2::addLegend() {
   for (Element& label : *Label10_) {
     double top = lay::kLegendTop + lay::kLegendStep * label.index / 2.0;
     if (label.index == 7) top = lay::kLegendTop + lay::kLegendStep * 4;
-    placed(text(label, captions.at(label.index), 9, true),
+    placed(captioned(label, captions.at(label.index), 9, true),
            {lay::kLegendLeft, top, lay::kLegendWidth, lay::kRowHeight});
     label.Alignment = AlignCenter;
   }
@@ -219,21 +207,21 @@ void form5d2::addLegend() {
   Label10(8).Caption = "|";
   placed(Label10(8), {lay::kLegendLeft, lay::kLegendTop + lay::kLegendStep * 3.5, lay::kLegendWidth,
                       lay::kRowHeight});
-  placed(text(Label10(9), kFirstTimeHint, 8), lay::kFirstTimeHint);
+  placed(captioned(Label10(9), kFirstTimeHint, 8), lay::kFirstTimeHint);
   Label10(9).ForeColor = color::Blue;
 }
 
 void form5d2::addStatus() {
   const lay::StatusColumn& at = lay::kStatusColumn;
-  Label36 = &text(placed(add("Label36", Kind::Label), at.gameName), "", 10, true);
-  Label33 = &text(placed(add("Label33", Kind::Label), at.status), "", 11, true);
+  Label36 = &captioned(placed(add("Label36", Kind::Label), at.gameName), "", 10, true);
+  Label33 = &captioned(placed(add("Label33", Kind::Label), at.status), "", 11, true);
   // Its colour is the mover's, Black included, so it stands on white.
   Label33->BackStyle = 1;
   Label33->BackColor = color::White;
   Label33->ForeColor = color::Blue;
   Label33->Alignment = AlignCenter;
-  Label99 = &text(placed(add("Label99", Kind::Label), at.movesLeft), "");
-  Label12 = &text(placed(add("Label12", Kind::Label), at.lastMove), kLastMove);
+  Label99 = &captioned(placed(add("Label99", Kind::Label), at.movesLeft), "");
+  Label12 = &captioned(placed(add("Label12", Kind::Label), at.lastMove), kLastMove);
   Command1 = &placed(add("Command1", Kind::Button), at.newGame);
   Command1->Caption = "New game";
   Label15_ = &addArray("Label15", Kind::Label, 0, 3);
@@ -242,7 +230,7 @@ void form5d2::addStatus() {
     int column = label.index % 2;
     const lay::Rect& cell = at.gameOverCell;
     placed(
-        text(label, column == 0 ? "GAME" : "OVER", 20, true),
+        captioned(label, column == 0 ? "GAME" : "OVER", 20, true),
         {cell.left + column * cell.width, cell.top + row * cell.height, cell.width, cell.height});
     label.ForeColor = color::Red;
     label.Alignment = AlignCenter;
@@ -274,10 +262,10 @@ void form5d2::addScores() {
     const lay::ScoreColumns& at = lay::kScores;
     double left = at.left + at.gap * static_cast<double>(i);
     auto shifted = [left](lay::Rect r) { return r.left += left, r; };
-    placed(text(side.heading, side.name, 10, true), shifted(at.heading));
+    placed(captioned(side.heading, side.name, 10, true), shifted(at.heading));
     placed(side.swatch, shifted(at.swatch)).BackColor = side.swatchColour;
-    placed(text(side.points, "0", 26, true), shifted(at.points));
-    placed(text(side.yourTurn, kYourTurn, 10, true), shifted(at.yourTurn));
+    placed(captioned(side.points, "0", 26, true), shifted(at.points));
+    placed(captioned(side.yourTurn, kYourTurn, 10, true), shifted(at.yourTurn));
     for (Element* e : {&side.heading, &side.points, &side.yourTurn}) {
       e->ForeColor = side.colour;
       e->Alignment = AlignCenter;
@@ -287,7 +275,7 @@ void form5d2::addScores() {
 }
 
 void form5d2::addHints() {
-  Label34 = &text(placed(add("Label34", Kind::Label), lay::kSafeCount), "", 9, true);
+  Label34 = &captioned(placed(add("Label34", Kind::Label), lay::kSafeCount), "", 9, true);
   Label34->Visible = false;
   List3 = &placed(add("List3", Kind::ListBox), lay::kSafeList);
   List3->BackColor = color::White;
@@ -304,12 +292,12 @@ void form5d2::addKey() {
   Image1 = &placed(add("Image1", Kind::Image), box);
   keyText = &placed(add("Label35", Kind::Label),
                     {box.left + 150, box.top + 150, box.width - 300, box.height - 300});
-  text(*keyText,
-       "Super Vrask Plus: a click paints its square's four lines and takes four more squares "
-       "with it. A face takes the four connecting squares that stand on its edges toward the "
-       "cube before it in the ring; a connecting square takes the matching face of both its "
-       "cubes and two squares beside it.",
-       8);
+  captioned(*keyText,
+            "Super Vrask Plus: a click paints its square's four lines and takes four more squares "
+            "with it. A face takes the four connecting squares that stand on its edges toward the "
+            "cube before it in the ring; a connecting square takes the matching face of both its "
+            "cubes and two squares beside it.",
+            8);
   for (Element* e : {&(*Shape2_)[0], &(*Shape2_)[1], Image1, keyText}) e->Visible = false;
 }
 

@@ -19,6 +19,7 @@
 #include "frame/keypad.h"
 #include "frame/other_games.h"
 #include "frame/round_list.h"
+#include "frame/turn_flow.h"
 #include "toolkit/form.h"
 
 namespace vrask {
@@ -56,7 +57,6 @@ class form5d2 : public Form {
   void showLines(bool on);
   void showSquares(bool on);
   void showLineNumbers(bool on);
-  void setMenusEnabled(bool on);
 
   // --- a person's moves (form5d2_play.cpp) ----------------------------------
   void Label1_Click(int Index);
@@ -123,6 +123,7 @@ class form5d2 : public Form {
   std::optional<Keypad> keypad_;
   std::optional<OtherGames> otherGames_;
   std::optional<RoundList> roundList_;
+  std::optional<TurnFlow> flow_;
 
   // The drawn segments of each line (slots 1..80): four for a cube line,
   // three for a connector.

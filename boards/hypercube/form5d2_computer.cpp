@@ -42,13 +42,11 @@ void form5d2::computerLineMove() {
     candlist = freeLines(lnown);
   }
   compbusy = 0;
-  int slot = candlist.at(static_cast<size_t>(pick(static_cast<int>(candlist.size())) - 1));
+  int slot = flow_->pickFrom(candlist);
   lnown.at(slot) = kRedCode;
   compmov(slot);
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = "No score    Blue's turn.";
-  Label4->Visible = true;
-  Label3->Visible = false;
+  flow_->say("No score    Blue's turn.", color::Blue);
+  flow_->showTurn(Side::Blue);
 }
 
 // The computer's line blinks yellow and dark red for four seconds and stays
@@ -65,7 +63,7 @@ void form5d2::compmov(int windex) {
   }
   --movesleft;
   Label99->Caption = movesLeft(movesleft);
-  Label12->Caption = kLastMove + std::to_string(gridNumber(windex));
+  flow_->showLastMove(gridNumber(windex));
   numberOf(windex).Visible = false;
   checkwins();
   hintlist();
@@ -94,12 +92,10 @@ void form5d2::computerSquareMove() {
   int square = squareToTake(sidecount, sqtaken);
   if (square == 0) return;
   wait(kSquarePause);
-  Label33->ForeColor = color::Red;
-  Label33->Caption = kRedsTurn;
-  Label4->Visible = false;
-  Label3->Visible = true;
+  flow_->say(kRedsTurn, color::Red);
+  flow_->showTurn(Side::Red);
   for (int k = 1; k <= 4; ++k) paintLine(sqln.at(square).at(k), kPainted, color::Yellow);
-  Label12->Caption = kLastMove + std::to_string(square);
+  flow_->showLastMove(square);
   Label11(square).Visible = false;
   Element& ring = Shape1(square);
   ring.BorderWidth = kChosenRing;
@@ -111,18 +107,15 @@ void form5d2::computerSquareMove() {
     for (int next : plusnb.at(square)) takeSquare(next, color::Red);
   }
   wait(kSquarePause);
-  Label5->Caption = "0";
-  Label6->Caption = "0";
+  flow_->zeroScores();
   ring.BorderWidth = kClosedRing;
   for (int k = 1; k <= 4; ++k) {
     int slot = sqln.at(square).at(k);
     paintLine(slot, kPainted, color::Red);
     paintSides(slot, color::Red);
   }
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = kBluesTurn;
-  Label4->Visible = true;
-  Label3->Visible = false;
+  flow_->say(kBluesTurn, color::Blue);
+  flow_->showTurn(Side::Blue);
   judge();
   if (movesleft < 1 && overflag == 0) {
     wait(kBeforeTheEnd);
@@ -136,7 +129,7 @@ void form5d2::computerLineVraskMove() {
   wait(kLineVraskPause);
   candlist = freeLines(lnown);
   if (candlist.empty()) return;
-  paintLineVrask(candlist.at(static_cast<size_t>(pick(static_cast<int>(candlist.size())) - 1)));
+  paintLineVrask(flow_->pickFrom(candlist));
 }
 
 }  // namespace vrask

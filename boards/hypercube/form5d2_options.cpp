@@ -43,9 +43,8 @@ void form5d2::gm_Click(int Index) {
   gamenum = Index;
   Label36->Caption = gameName(Index);
   if (Index == 0) {
-    Label33->ForeColor = color::Blue;
-    Label4->Visible = true;
-    Label3->Visible = false;
+    flow_->say(flow_->status(), color::Blue);
+    flow_->showTurn(Side::Blue);
     redtoplay = 0;
   }
   // The key of Super Vrask Plus shows in its three games only.
@@ -56,7 +55,7 @@ void form5d2::gm_Click(int Index) {
   bool squares = squareGame();
   showSquares(squares);
   showLines(!squares);
-  Label33->Caption = squares ? kClickACircle : kClickALine;
+  flow_->say(squares ? kClickACircle : kClickALine, flow_->moverColour());
   Label99->Caption = movesLeft(squares ? kSquares : kLines);
   shint->Enabled = !squares;
   bhint->Enabled = !squares;
@@ -110,20 +109,14 @@ void form5d2::resetRound() {
   overflag = 0;
   for (int slot = 1; slot <= kLines; ++slot) paintLine(slot, 1, designColour_.at(slot));
   movesleft = kLines;
-  Label5->Caption = "0";
-  Label6->Caption = "0";
+  flow_->zeroScores();
   for (Element& ring : *Shape1_) {
     ring.BorderWidth = 1;
     ring.BorderColor = color::Black;
   }
-  for (Element& label : *Label15_) label.Visible = false;
   List3->Clear();
-  setMenusEnabled(true);
-  Label12->Caption = kLastMove;
-  if (keypad_->on()) {
-    setDefaultButton(*this, keypad_->enterButton());
-    keypad_->focusText();
-  }
+  flow_->setGameMenusEnabled(true);
+  flow_->startNewGame();
   bool squares = squareGame();
   showSquares(squares);
   showLines(!squares);
@@ -142,7 +135,7 @@ void form5d2::resetRound() {
 // random move, made as in a two-player game so that the turn passes to Blue
 // without a reply.
 void form5d2::openRound() {
-  if (lineVraskGame()) Label33->ForeColor = color::Blue;
+  if (lineVraskGame()) flow_->say(flow_->status(), color::Blue);
   if (gamenum == 0 || gamenum == 2) return;
   if (firstturn == 0) {
     firstturn = 1;
@@ -150,10 +143,8 @@ void form5d2::openRound() {
   }
   firstturn = 0;
   if (!onePlayer()) return;
-  Label33->ForeColor = color::Red;
-  Label33->Caption = kRedsTurn;
-  Label4->Visible = false;
-  Label3->Visible = true;
+  flow_->say(kRedsTurn, color::Red);
+  flow_->showTurn(Side::Red);
   pl_Click();
   if (squareGame()) {
     Label11_Click(pick(kSquares));
@@ -177,10 +168,6 @@ void form5d2::showSquares(bool on) {
 
 void form5d2::showLineNumbers(bool on) {
   for (Element& number : *Label9_) number.Visible = on;
-}
-
-void form5d2::setMenusEnabled(bool on) {
-  for (Element* menu : {pwm, gmzz, pme}) menu->Enabled = on;
 }
 
 }  // namespace vrask

@@ -26,7 +26,8 @@ int slotOfClick(int Index) {
 
 }  // namespace
 
-// A line game move: the mover's line, judged at once.
+// A line game move: the mover's line, judged at once. A refused move leaves
+// everything as it was, the first-time hint included.
 void form5d2::Label1_Click(int Index) {
   if (compbusy == 1 || flashing == 1) return;
   if (lineVraskGame()) {
@@ -34,15 +35,15 @@ void form5d2::Label1_Click(int Index) {
     return;
   }
   if (!lineGame()) return;
-  Label10(9).Visible = false;
-  bhint->Enabled = false;
-  shint->Enabled = false;
   int slot = slotOfClick(Index);
   if (lnown.at(slot) > 0) {
     MsgBox(kInvalidMove);
     return;
   }
-  setMenusEnabled(false);
+  Label10(9).Visible = false;
+  bhint->Enabled = false;
+  shint->Enabled = false;
+  flow_->setGameMenusEnabled(false);
   --movesleft;
   Label99->Caption = movesLeft(movesleft);
   bool red = redtoplay == 1;
@@ -53,7 +54,7 @@ void form5d2::Label1_Click(int Index) {
   paintSides(slot, code);
   paintLine(slot, kPainted, colour);
   numberOf(slot).Visible = false;
-  Label12->Caption = kLastMove + std::to_string(gridNumber(slot));
+  flow_->showLastMove(gridNumber(slot));
   checkwins();
 }
 
@@ -73,14 +74,14 @@ void form5d2::paintLine(int slot, int width, int colour) {
 // is over nothing is left to play, so a typed number is turned away there.
 void form5d2::Label11_Click(int Index) {
   if (!squareGame() || overflag == 1) return;
-  Label10(9).Visible = false;
   if (sqtaken.at(Index) > 0) {
     MsgBox(kInvalidMove);
     return;
   }
-  setMenusEnabled(false);
-  Label12->Caption = kLastMove + std::to_string(Index);
-  int colour = Label33->ForeColor;
+  Label10(9).Visible = false;
+  flow_->setGameMenusEnabled(false);
+  flow_->showLastMove(Index);
+  int colour = flow_->moverColour();
   takeSquare(Index, colour);
   // Super Vrask Plus takes the square again with its four, closed or not.
   if (plusGame()) {
@@ -113,46 +114,40 @@ void form5d2::takeSquare(int square, int colour) {
 }
 
 void form5d2::passTurn() {
-  bool blueNext = Label33->ForeColor == color::Red;
-  Label33->ForeColor = blueNext ? color::Blue : color::Red;
-  Label33->Caption = blueNext ? kBluesTurn : kRedsTurn;
-  Label4->Visible = blueNext;
-  Label3->Visible = !blueNext;
+  bool blueNext = flow_->moverColour() == color::Red;
+  flow_->say(blueNext ? kBluesTurn : kRedsTurn, blueNext ? color::Blue : color::Red);
+  flow_->showTurn(blueNext ? Side::Blue : Side::Red);
 }
 
 // The keypad's Enter: the number typed plays as a click on that line or
-// circle. A number out of range, or not a whole number, is dropped.
+// circle. A number out of range, not a whole number, or naming a closed
+// circle is dropped.
 void form5d2::Command3_Click() {
   if (compbusy == 1 || flashing == 1) return;
-  Element& box = keypad_->text();
-  double n = Val(box.Text);
-  bool whole = std::floor(n) == n;
-  box.Text.clear();
-  SetFocus(box);
-  if (!whole) return;
-  int number = static_cast<int>(n);
+  SetFocus(keypad_->text());
   if (squareGame()) {
-    if (number >= 1 && number <= kSquares) Label11_Click(number);
-  } else if (number >= 1 && number <= kLines) {
-    Label1_Click(number - 1);
+    if (std::optional<int> square = flow_->typedTarget(*Label11_)) Label11_Click(*square);
+    return;
   }
+  std::optional<int> number = flow_->typedNumber();
+  if (number && *number >= 1 && *number <= kLines) Label1_Click(*number - 1);
 }
 
 // A Line Vrask move: the line and every line that meets it take the colour
 // the status label shows, whoever held them. After the round's end the lines
 // the last move wiped out are free again, but nothing is left to play.
 void form5d2::linevrask(int Index) {
-  Label10(9).Visible = false;
   if (overflag == 1) return;
-  for (Element& ring : *Shape1_) {
-    if (ring.BorderWidth == kClosedRing && ring.BorderColor == color::Black) ring.Visible = false;
-  }
   int slot = slotOfClick(Index);
   if (lnown.at(slot) != 0) {
     MsgBox(kInvalidMove);
     return;
   }
-  setMenusEnabled(false);
+  Label10(9).Visible = false;
+  for (Element& ring : *Shape1_) {
+    if (ring.BorderWidth == kClosedRing && ring.BorderColor == color::Black) ring.Visible = false;
+  }
+  flow_->setGameMenusEnabled(false);
   paintLineVrask(slot);
   if (overflag == 0 && onePlayer()) computerLineVraskMove();
 }
@@ -160,8 +155,8 @@ void form5d2::linevrask(int Index) {
 // From "Last move" to the end of the round: what a person's move and the
 // computer's have alike.
 void form5d2::paintLineVrask(int slot) {
-  Label12->Caption = kLastMove + std::to_string(gridNumber(slot));
-  int colour = Label33->ForeColor;
+  flow_->showLastMove(gridNumber(slot));
+  int colour = flow_->moverColour();
   std::vector<int> lines{slot};
   lines.insert(lines.end(), lnnb.at(slot).begin(), lnnb.at(slot).end());
   for (int line : lines) {
@@ -191,8 +186,7 @@ void form5d2::afterLineVrask() {
 // out in black, which can take points from both sides, and the round ends.
 void form5d2::lastvrask() {
   int slot = freeLines(lnown).front();
-  Label33->ForeColor = color::Black;
-  Label33->Caption = kVraskMove;
+  flow_->say(kVraskMove, color::Black);
   std::vector<int> lines{slot};
   lines.insert(lines.end(), lnnb.at(slot).begin(), lnnb.at(slot).end());
   for (int line : lines) {

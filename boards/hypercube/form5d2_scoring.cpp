@@ -18,10 +18,6 @@ namespace {
 
 constexpr double kSquareFlash = 3;
 
-void addPoints(Element& score, int points) {
-  score.Caption = std::to_string(static_cast<int>(Val(score.Caption)) + points);
-}
-
 }  // namespace
 
 // --- line games --------------------------------------------------------------
@@ -35,16 +31,16 @@ void form5d2::checkwins() {
   int n = static_cast<int>(finished.size());
   bool dorvel = gamenum == 1;
   if (n != 0 && redtoplay == 1) {
-    addPoints(*Label5, n);
+    flow_->addPoints(Side::Blue, n);
     if (dorvel) {
-      Label33->ForeColor = color::Red;
+      flow_->say(flow_->status(), color::Red);
     } else {
       redtoplay = 0;
     }
   } else if (n != 0) {
-    addPoints(*Label6, n);
+    flow_->addPoints(Side::Red, n);
     if (dorvel) {
-      Label33->ForeColor = color::Blue;
+      flow_->say(flow_->status(), color::Blue);
     } else {
       redtoplay = 1;
     }
@@ -90,19 +86,20 @@ std::vector<int> form5d2::newlyFinished() {
 void form5d2::announceLineScore(int n) {
   bool redNext = redtoplay == 1;
   if (n == 0) {
-    Label33->Caption = std::string("No score    ") + (redNext ? "Red" : "Blue") + "'s turn.";
-    Label33->ForeColor = redNext ? color::Red : color::Blue;
-    Label3->Visible = redNext;
-    Label4->Visible = !redNext;
+    flow_->say(std::string("No score    ") + (redNext ? "Red" : "Blue") + "'s turn.",
+               redNext ? color::Red : color::Blue);
+    flow_->showTurn(redNext ? Side::Red : Side::Blue);
     return;
   }
   if (n >= 2) {
-    Label33->Caption = kManyScores.at(static_cast<size_t>(n));
+    flow_->say(kManyScores.at(static_cast<size_t>(n)), flow_->moverColour());
   } else if (gamenum == 1) {
-    Label33->Caption = std::string(" Score!      ") + (redNext ? "Red" : "Blue") + "'s turn now.";
+    flow_->say(std::string(" Score!      ") + (redNext ? "Red" : "Blue") + "'s turn now.",
+               flow_->moverColour());
   } else {
     // The scorer moves again: `redtoplay` names the scorer's opponent.
-    Label33->Caption = std::string(" Score!      ") + (redNext ? "Red" : "Blue") + " goes again.";
+    flow_->say(std::string(" Score!      ") + (redNext ? "Red" : "Blue") + " goes again.",
+               flow_->moverColour());
   }
 }
 
@@ -126,8 +123,7 @@ void form5d2::sqpaint(int square) {
 // player's colour it scores for that player and closes. In the Classic games
 // a square painted all round in mixed colours closes for nobody.
 void form5d2::judge() {
-  Label5->Caption = "0";
-  Label6->Caption = "0";
+  flow_->zeroScores();
   if (squareGame() && hidmov->Checked) hideNonScoringSquares();
   int blue = 0;
   int red = 0;
@@ -158,8 +154,8 @@ void form5d2::judge() {
       Label11(s).Visible = false;
     }
   }
-  Label5->Caption = std::to_string(blue);
-  Label6->Caption = std::to_string(red);
+  flow_->addPoints(Side::Blue, blue);
+  flow_->addPoints(Side::Red, red);
   if (lineVraskGame()) {
     movesleft = lineVraskMovesLeft();
   } else {
@@ -190,16 +186,12 @@ int form5d2::lineVraskMovesLeft() const {
 // --- the end of a round ------------------------------------------------------------
 
 // Three rows in the round list and "GAME OVER", once; New starts the next.
+// The keypad closes with the round and opens with the next if it is on.
 void form5d2::endOfRound() {
   if (overflag == 1) return;
   overflag = 1;
   if (!lineGame()) sqtaken = {};
-  int blue = static_cast<int>(Val(Label5->Caption));
-  int red = static_cast<int>(Val(Label6->Caption));
-  roundList_->recordGame(blue, red);
-  for (Element& label : *Label15_) label.Visible = true;
-  setDefaultButton(*this, *Command1);
-  SetFocus(*Command1);
+  flow_->endGame();
 }
 
 }  // namespace vrask

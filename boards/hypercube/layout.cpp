@@ -75,9 +75,19 @@ Point toEdge(const Rect& box, Point from, Point dir) {
   return {from.x + dir.x * t, from.y + dir.y * t};
 }
 
+Segment between(Point a, Point b) {
+  return {a.x, a.y, b.x, b.y};
+}
+Point from(const Segment& s) {
+  return {s.x1, s.y1};
+}
+Point to(const Segment& s) {
+  return {s.x2, s.y2};
+}
+
 Segment edgeOf(const Picture& p, double face, int edge) {
   const auto& ends = kEdgeCorners.at(edge);
-  return {corner(p, face, ends[0]), corner(p, face, ends[1])};
+  return between(corner(p, face, ends[0]), corner(p, face, ends[1]));
 }
 
 // The normal picture where a cube is the outer one.
@@ -108,27 +118,27 @@ Segment connectorSegment(int step, int k, int segment) {
     const Picture& p = pictureOf(leaving, true);
     Point from = corner(p, outerFace(p), k);
     Point c = centreOf(p);
-    return {from, toEdge(p.box, from, {from.x - c.x, from.y - c.y})};
+    return between(from, toEdge(p.box, from, {from.x - c.x, from.y - c.y}));
   }
   const Picture& p = pictureOf(step, segment == InLarge);
-  return {corner(p, outerFace(p), k), corner(p, innerFace(p), k)};
+  return between(corner(p, outerFace(p), k), corner(p, innerFace(p), k));
 }
 
 Rect hitArea(int index) {
   if (isConnector(index)) {
     int step = (index - kCubeLines) / kCorners;
     Segment s = connectorSegment(step, (index - kCubeLines) % kCorners, InNormal);
-    return around(along(s.from, s.to, kConnectorHit), kHitWidth, kHitHeight);
+    return around(along(from(s), to(s), kConnectorHit), kHitWidth, kHitHeight);
   }
   const Picture& p = normalPictureOf(index / kEdges);
   Segment s = edgeOf(p, outerFace(p), index % kEdges);
-  return around(middle(s.from, s.to), kHitWidth, kHitHeight);
+  return around(middle(from(s), to(s)), kHitWidth, kHitHeight);
 }
 
 Rect secondHitArea(int index) {
   int step = (index - kCubeLines) / kCorners;
   Segment s = connectorSegment(step, (index - kCubeLines) % kCorners, InLarge);
-  return around(along(s.from, s.to, kConnectorHit), kHitWidth, kHitHeight);
+  return around(along(from(s), to(s), kConnectorHit), kHitWidth, kHitHeight);
 }
 
 namespace {
@@ -140,7 +150,7 @@ Point squareCentre(int square) {
     Point sum;
     for (int e : kFaceEdges.at((square - 1) % kFaces)) {
       Segment s = edgeOf(p, outerFace(p), e);
-      sum = {sum.x + s.from.x + s.to.x, sum.y + s.from.y + s.to.y};
+      sum = {sum.x + s.x1 + s.x2, sum.y + s.y1 + s.y2};
     }
     return {sum.x / 8, sum.y / 8};
   }
@@ -149,7 +159,7 @@ Point squareCentre(int square) {
   const Picture& p = pictureOf(step, true);
   Segment outer = edgeOf(p, outerFace(p), e);
   Segment inner = edgeOf(p, innerFace(p), e);
-  return middle(middle(outer.from, outer.to), middle(inner.from, inner.to));
+  return middle(middle(from(outer), to(outer)), middle(from(inner), to(inner)));
 }
 
 }  // namespace

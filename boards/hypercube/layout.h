@@ -7,16 +7,14 @@
 
 #include <array>
 
+#include "frame/helpers.h"
+
 namespace vrask::hypercube::layout {
 
+using vrask::Rect;
+using vrask::Segment;
 struct Point {
   double x = 0, y = 0;
-};
-struct Rect {
-  double left = 0, top = 0, width = 0, height = 0;
-};
-struct Segment {
-  Point from, to;
 };
 
 // One picture: its box, the ring step it shows (the step's first cube
