@@ -59,12 +59,12 @@ int indexOfNumber(int n) {
 }  // namespace
 
 void form5d2::Form_Load() {
-  Caption = shared().text(shared::kProductTitle);
   Width = lay::kFormWidth;
   Height = lay::kFormHeight;
   openAboveCentre = 300;
   BackColor = kFormColour;
   designColour_ = designColours();
+  Caption = shared().text(shared::kProductTitle);
   addPictures();
   addSegments();
   addHitAreas();
@@ -326,8 +326,7 @@ void form5d2::addGamesMenu() {
 void form5d2::addOptionsMenus() {
   pwm = &addMenu("pwm", "", "Players");
   pl_ = &addMenuArray("pl", "pwm", 1, 2);
-  pl(1).Caption = "One player";
-  pl(2).Caption = "Two Player";
+  for (Element& entry : *pl_) entry.Caption = entry.index == 1 ? "One player" : "Two Player";
   pl(1).Checked = true;
   pme = &addMenu("pme", "", "Options");
   hidmov = &addMenu("hidmov", "pme", "Hide non-scoring moves in Vrask games");

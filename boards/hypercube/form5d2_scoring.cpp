@@ -7,18 +7,10 @@
 #include "boards/hypercube/captions.h"
 #include "boards/hypercube/form5d2.h"
 #include "boards/hypercube/look.h"
-#include "frame/helpers.h"
-#include "frame/round_list.h"
 
 namespace vrask {
 
 using namespace hypercube;
-
-namespace {
-
-constexpr double kSquareFlash = 3;
-
-}  // namespace
 
 // --- line games --------------------------------------------------------------
 
@@ -52,7 +44,7 @@ void form5d2::checkwins() {
   for (int square : finished) {
     sqflash(square);
     Refresh();
-    waitWithEvents(kSquareFlash);
+    waitWithEvents(kSquareFlashSeconds);
     sqpaint(square);
     Refresh();
   }

@@ -19,6 +19,9 @@ enum Colours : int {
   kRedCube = 128,
 };
 
+// How long a finished square shows in yellow in the line games.
+inline constexpr double kSquareFlashSeconds = 3;
+
 // Codes of the line games' owners in `lnown` and `sqside`.
 enum OwnerCodes : int { kRedCode = 1, kBlueCode = 2 };
 

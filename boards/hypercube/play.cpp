@@ -120,29 +120,30 @@ int lineOfTarget(int n) {
 }  // namespace
 
 PlayDescriptor play() {
-  PlayDescriptor d;
-  d.form = "form5d2";
-  d.setups = allSetups();
-  d.bench = benchSeries();
-  d.newGame = {"gmm", 1};
-  d.kinds = {{"Label1", kInvalidMove, [](int n) { return lineOfTarget(n) + 1; }},
-             {"Label11", kInvalidMove}};
-  d.kindInPlay = [](Form& form) { return isSquareGame(gameNumber(form)) ? 1U : 0U; };
-  // Once a round is over nothing is left to play, though the square games
-  // free their squares then.
-  d.taken = [](Form& form, size_t kind, int n) {
-    if (numberOf(form, "overflag") == 1) return true;
-    int line = lineOfTarget(n);
-    if (kind == 0 && line >= kLines) return false;
-    return kind == 0 ? numberOf(form, "lnown", {slotOf(line)}) != 0
-                     : numberOf(form, "sqtaken", {n}) != 0;
+  return {
+      .form = "form5d2",
+      .setups = allSetups(),
+      .bench = benchSeries(),
+      .newGame = {"gmm", 1},
+      .kinds = {{"Label1", kInvalidMove, [](int n) { return lineOfTarget(n) + 1; }},
+                {"Label11", kInvalidMove}},
+      .kindInPlay = [](Form& form) { return isSquareGame(gameNumber(form)) ? 1U : 0U; },
+      // Once a round is over nothing is left to play, though the square games
+      // free their squares then.
+      .taken =
+          [](Form& form, size_t kind, int n) {
+            if (numberOf(form, "overflag") == 1) return true;
+            int line = lineOfTarget(n);
+            if (kind == 0 && line >= kLines) return false;
+            return kind == 0 ? numberOf(form, "lnown", {slotOf(line)}) != 0
+                             : numberOf(form, "sqtaken", {n}) != 0;
+          },
+      .finished = [](Form& form) { return numberOf(form, "overflag") == 1; },
+      .points = points,
+      .scoresDisagree = scoresDisagree,
+      .enterButton = "Command3",
+      .keypadOpener = {"Command4", std::nullopt},
   };
-  d.finished = [](Form& form) { return numberOf(form, "overflag") == 1; };
-  d.points = points;
-  d.scoresDisagree = scoresDisagree;
-  d.enterButton = "Command3";
-  d.keypadOpener = {"Command4", std::nullopt};
-  return d;
 }
 
 }  // namespace vrask::hypercube

@@ -56,11 +56,12 @@ TEST(HypercubeLayout, ConnectorsJoinTheCornersOfTheCubesTheyDraw) {
     }
     int end = kEdgeCorners[edge][0] == k ? 0 : 1;
     Segment white = cubeSegment(edge, 20), red = cubeSegment(edge, 32);
-    Point w = end == 0 ? white.from : white.to, r = end == 0 ? red.from : red.to;
-    EXPECT_DOUBLE_EQ(c.from.x, w.x);
-    EXPECT_DOUBLE_EQ(c.from.y, w.y);
-    EXPECT_DOUBLE_EQ(c.to.x, r.x);
-    EXPECT_DOUBLE_EQ(c.to.y, r.y);
+    Point w = end == 0 ? Point{white.x1, white.y1} : Point{white.x2, white.y2};
+    Point r = end == 0 ? Point{red.x1, red.y1} : Point{red.x2, red.y2};
+    EXPECT_DOUBLE_EQ(c.x1, w.x);
+    EXPECT_DOUBLE_EQ(c.y1, w.y);
+    EXPECT_DOUBLE_EQ(c.x2, r.x);
+    EXPECT_DOUBLE_EQ(c.y2, r.y);
   }
 }
 
