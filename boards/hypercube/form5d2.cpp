@@ -204,7 +204,7 @@ void form5d2::addLegend() {
     label.Alignment = AlignCenter;
   }
   // Blue to White closes the ring: the step between the last two names.
-  Label10(8).Caption = "|";
+  Label10(8).Caption = std::string("|");
   placed(Label10(8), {lay::kLegendLeft, lay::kLegendTop + lay::kLegendStep * 3.5, lay::kLegendWidth,
                       lay::kRowHeight});
   placed(captioned(Label10(9), kFirstTimeHint, 8), lay::kFirstTimeHint);
@@ -317,7 +317,7 @@ void form5d2::addGamesMenu() {
   gmm[1].Caption = "New Game";
   gmzz = &addMenu("gmzz", "", "Games");
   gm_ = &addMenuArray("gm", "gmzz", 0, 15);
-  for (Element& entry : *gm_) entry.Caption = "-";
+  for (Element& entry : *gm_) entry.Caption = std::string("-");  // a separator
   for (const GameEntry& game : kGames) gm(game.index).Caption = game.caption;
 }
 
