@@ -1,8 +1,7 @@
 #include "boards/hypercube/computer.h"
 
 #include <algorithm>
-#include <iterator>
-#include <ranges>
+#include <numeric>
 
 namespace vrask::hypercube {
 
@@ -10,9 +9,9 @@ namespace {
 
 // The free lines, ascending, that `risky` (by slot) does not mark.
 std::vector<int> freeLinesBut(const LineValues& lnown, const std::array<bool, kLines + 1>& risky) {
-  std::vector<int> lines;
-  std::ranges::copy_if(std::views::iota(1, kLines + 1), std::back_inserter(lines),
-                       [&](int slot) { return lnown.at(slot) == 0 && !risky.at(slot); });
+  std::vector<int> lines(kLines);
+  std::iota(lines.begin(), lines.end(), 1);
+  std::erase_if(lines, [&](int slot) { return lnown.at(slot) != 0 || risky.at(slot); });
   return lines;
 }
 
