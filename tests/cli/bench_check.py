@@ -8,7 +8,7 @@ import re
 import subprocess
 import sys
 
-SQUARE_BOARD_SIGNATURE = "dff0aa4bba161396"
+SQUARE_BOARD_SIGNATURE = "581859a906a5dda8"
 
 
 def bench(*args):
