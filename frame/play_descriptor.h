@@ -34,6 +34,9 @@ struct Setup {
 struct MoveKind {
   std::string targets;
   std::string refusal;
+  // The number a person types for target n, where it is not n itself (a
+  // board whose targets count from 0 and its numbers from 1).
+  std::function<int(int)> typed = nullptr;
 };
 
 struct PlayDescriptor {

@@ -107,13 +107,17 @@ void TurnFlow::startNewGame() {
 }
 
 std::optional<int> TurnFlow::typedTarget(const ElementArray& targets) {
+  std::optional<int> n = typedNumber();
+  if (!n || !targets.contains(*n) || !targets[*n].Visible) return std::nullopt;
+  return n;
+}
+
+std::optional<int> TurnFlow::typedNumber() {
   Element& box = keypad_.text();
   double n = Val(box.Text);
   box.Text.clear();
-  if (std::floor(n) != n || n < targets.lo() || n > targets.hi()) return std::nullopt;
-  int target = static_cast<int>(n);
-  if (!targets[target].Visible) return std::nullopt;
-  return target;
+  if (std::floor(n) != n || std::abs(n) > 1e9) return std::nullopt;
+  return static_cast<int>(n);
 }
 
 void TurnFlow::computerPause() {

@@ -81,6 +81,9 @@ class TurnFlow {
   // `targets` it names, when it is whole, in the array's range and shows;
   // else nothing, without a word.
   std::optional<int> typedTarget(const ElementArray& targets);
+  // The whole number typed on the keypad, which empties its box; nothing,
+  // without a word, when it is not one.
+  std::optional<int> typedNumber();
 
   // The computer's move shows for a moment; clicks that come in the pause
   // reach the handlers, which the board's busy flag keeps out.

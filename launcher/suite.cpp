@@ -2,6 +2,8 @@
 
 #include "boards/flatland/Form1large.h"
 #include "boards/flatland/play.h"
+#include "boards/hypercube/form5d2.h"
+#include "boards/hypercube/play.h"
 #include "boards/zorvex/play.h"
 #include "boards/zorvex/zorvex.h"
 #include "frame/about_box.h"
@@ -24,6 +26,7 @@ const std::vector<Board>& boards() {
   static const std::vector<Board> list{
       {factory<Form1large>(), flatland::play()},
       {factory<zorvex>(), cube::play()},
+      {factory<form5d2>(), hypercube::play()},
   };
   return list;
 }

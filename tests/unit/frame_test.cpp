@@ -55,7 +55,7 @@ TEST_F(FrameFixture, KeypadEntryLeavesAGridThatWasOnAndTheEnterKeyPlaysTheNumber
 TEST_F(FrameFixture, OtherGamesOffersOnlyBuiltBoardsAndCarriesOnlyTheWallLevel) {
   EXPECT_FALSE(el("cbm", 2).Enabled);
   EXPECT_EQ(el("cbm", 2).ToolTipText, "Not yet available");
-  EXPECT_EQ(event("fcbm", 13), Program::Outcome::Ignored);
+  EXPECT_EQ(event("fcbm", 12), Program::Outcome::Ignored);
   event("zcbm", 9);
   ASSERT_EQ(board().name(), "vraskthewall");
   EXPECT_EQ(program.shared().number(shared::kWallLevel), 2);

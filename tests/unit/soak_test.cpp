@@ -19,6 +19,7 @@ namespace {
 constexpr int kGamesPerBoard = 200;
 constexpr int kStepLimit = 3000;      // far more than any game needs
 constexpr int kSnapshotsPerGame = 6;  // whole-form comparisons are the slow part
+constexpr int kNoTarget = -1000000;   // no target index of any board
 
 // Each element's state and each variable's values, named for the failure message.
 struct Item {
@@ -129,14 +130,15 @@ class SoakPlayer {
   ElementArray& targets(size_t kind) { return *form().findArray(play_.kinds.at(kind).targets); }
   bool isFree(size_t kind, int n) { return !play_.taken(form(), kind, n); }
 
-  // A target that shows and is free (or taken); 0 when there is none.
+  // A target that shows and is free (or taken); kNoTarget when there is none
+  // (a board's targets may count from 0).
   int pick(size_t kind, bool free) {
     std::vector<int> found;
     for (const Element& target : targets(kind)) {
       if (target.Visible && isFree(kind, target.index) == free) found.push_back(target.index);
     }
     EXPECT_TRUE(!free || !found.empty()) << "no move left in a running game";
-    return found.empty() ? 0 : found[static_cast<size_t>(chance(int(found.size())) - 1)];
+    return found.empty() ? kNoTarget : found[static_cast<size_t>(chance(int(found.size())) - 1)];
   }
 
   // Mostly a free target, clicked or typed; else a taken one, any number in range
@@ -155,13 +157,14 @@ class SoakPlayer {
     bool typed = roll != 2 && oneIn(3) && !program_.whyRefused(form(), box);
     ElementArray& all = targets(k);
     int n = roll <= 2   ? all.lo() + chance(all.hi() - all.lo() + 1) - 1
-            : roll == 4 ? 0
+            : roll == 4 ? kNoTarget
                         : pick(k, roll != 3);
-    std::string text = roll != 4  ? std::to_string(n)
+    const MoveKind& moveKind = play_.kinds.at(k);
+    std::string text = roll != 4  ? std::to_string(moveKind.typed ? moveKind.typed(n) : n)
                        : oneIn(2) ? std::to_string(all.hi() + chance(200))
                                   : kJunk[static_cast<size_t>(chance(7) - 1)];
     if (roll == 4 && !typed) return;
-    if (roll != 4 && n == 0) return;
+    if (roll != 4 && n == kNoTarget) return;
     bool shows = roll != 4 && all[n].Visible && k == playing;
     bool move = shows && isFree(k, n);
     if (!move && snapshotsLeft_-- <= 0) return;
