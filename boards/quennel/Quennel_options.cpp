@@ -48,6 +48,7 @@ void Quennel::ga_Click(int index) {
     shonull();
   }
   Label36->Caption = chosen->status;
+  Label34->Caption = std::to_string(lineGame() ? lines() : faces());
   Label33->Caption = lineGame() ? kLinePrompt : kFaceChosen;
   // Only some games turn; the others stay in the first view.
   if (!chosen->turnable) viewnum = 1;

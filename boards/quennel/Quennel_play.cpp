@@ -14,7 +14,7 @@ using namespace quennel;
 
 void Quennel::sdfx_Click(int n) {
   keyedmove(n);
-  if (keypad_->on()) keypad_->focusText();
+  if (keypad_->on()) focusTypedMoves();
 }
 
 // A line move, by the number on the screen. A line already taken costs
