@@ -67,8 +67,8 @@ void Quennel::Form_Load() {
   addViewAndNew();
   addMenus();
   roundList_ = std::make_unique<RoundList>(
-      *this, RoundListConfig{.list = "List4", .firstRow = "", .afterWinner = "\t\t",
-                             .place = lay::kRoundList});
+      *this, RoundListConfig{
+                 .list = "List4", .firstRow = "", .afterWinner = "\t\t", .place = lay::kRoundList});
   registerHandlers();
   registerVariables();
 
@@ -240,10 +240,13 @@ void Quennel::addOptionsMenu() {
   addMenu("osep", "zw", "-");
   hidmov = &addMenu("hidmov", "zw", kHideMoves);
   hidmov->Checked = true;
-  grid_ = std::make_unique<GridSwitch>(*this, "zw", [this](bool on) { grid_Click(on); }, "grid");
+  grid_ = std::make_unique<GridSwitch>(
+      *this, "zw", [this](bool on) { grid_Click(on); }, "grid");
   keypad_ = std::make_unique<Keypad>(
       *this, *grid_, [this] { Command6_Click(); },
-      KeypadConfig{.parentMenu = "zw", .openerButton = "Command9", .panel = lay::kKeypad,
+      KeypadConfig{.parentMenu = "zw",
+                   .openerButton = "Command9",
+                   .panel = lay::kKeypad,
                    .opener = lay::kKeypadOpener});
   addOnlineEntries(*this, "zw");
 }
@@ -270,16 +273,16 @@ void Quennel::registerHandlers() {
 }
 
 void Quennel::registerVariables() {
-  for (auto [name, value] : std::initializer_list<std::pair<const char*, int*>>{
-           {"gamecode", &gamecode},
-           {"levelfull", &levelfull},
-           {"viewnum", &viewnum},
-           {"whosnext", &whosnext},
-           {"openerflag", &openerflag},
-           {"markplayer", &markplayer},
-           {"movesleft", &movesleft},
-           {"finished", &finished},
-           {"openingmove", &openingmove}}) {
+  for (auto [name, value] :
+       std::initializer_list<std::pair<const char*, int*>>{{"gamecode", &gamecode},
+                                                           {"levelfull", &levelfull},
+                                                           {"viewnum", &viewnum},
+                                                           {"whosnext", &whosnext},
+                                                           {"openerflag", &openerflag},
+                                                           {"markplayer", &markplayer},
+                                                           {"movesleft", &movesleft},
+                                                           {"finished", &finished},
+                                                           {"openingmove", &openingmove}}) {
     var(name, *value);
   }
   auto perLine = [](const auto& table) {
@@ -327,7 +330,8 @@ void Quennel::Timer1_Timer() {
 
 // What the introduction holds closed and opens at its end.
 void Quennel::setStartMenusEnabled(bool on) {
-  for (Element* e : {sublmenu, zw, kkj, Command3, &keypad_->entry(), &grid_->entry(), gg, newMenu}) {
+  for (Element* e :
+       {sublmenu, zw, kkj, Command3, &keypad_->entry(), &grid_->entry(), gg, newMenu}) {
     e->Enabled = on;
   }
 }

@@ -30,7 +30,7 @@ inline constexpr int kBlueMark = 2;
 // Each small tetrahedron's own colour for its free lines, in the order of
 // `kTetrahedra`; none is Blue, either Red, black or yellow, so no free line
 // ever reads as a player's.
-inline constexpr std::array<int, 8> kTetrahedronColours{
-    0x00C000, 0xC0C000, 0x00C0C0, 0xC000C0, 0x80FF80, 0xFFFF00, 0xC0C0C0, 0x808000};
+inline constexpr std::array<int, 8> kTetrahedronColours{0x00C000, 0xC0C000, 0x00C0C0, 0xC000C0,
+                                                        0x80FF80, 0xFFFF00, 0xC0C0C0, 0x808000};
 
 }  // namespace vrask::quennel

@@ -108,17 +108,17 @@ struct Game {
   const char* menu;    // its menu text
   const char* status;  // `Label36` once it is chosen
   Count count;
-  bool super;      // the move runs on beyond the face
-  int levelfull;   // 0: the first size, 1: the second
-  bool turnable;   // the view buttons are shown
+  bool super;     // the move runs on beyond the face
+  int levelfull;  // 0: the first size, 1: the second
+  bool turnable;  // the view buttons are shown
 };
 
 // The fourteen games, in the order of the menu.
 const std::array<Game, 14>& games();
 // The game of menu index `gamecode`, or nothing for a separator or unused index.
 const Game* gameOf(int gamecode);
-inline constexpr int kGameEntries = 22;  // `ga(0..21)`
-inline constexpr int kFirstGame = 5;     // chosen at load, and for the first size
+inline constexpr int kGameEntries = 22;   // `ga(0..21)`
+inline constexpr int kFirstGame = 5;      // chosen at load, and for the first size
 inline constexpr int kFullFirstGame = 8;  // chosen for the second size
 
 inline bool playsLines(int gamecode) {

@@ -39,7 +39,8 @@ TEST(QuennelTables, FacesAreTheTrianglesOfTheLinesAndTheFirstSizeIsClosed) {
   for (int a = 0; a < kVertices; ++a) {
     for (int b = a + 1; b < kVertices; ++b) {
       for (int c = b + 1; c < kVertices; ++c) {
-        if (lineBetween(a, b) && lineBetween(b, c) && lineBetween(a, c)) triangles.insert({a, b, c});
+        if (lineBetween(a, b) && lineBetween(b, c) && lineBetween(a, c))
+          triangles.insert({a, b, c});
       }
     }
   }
@@ -47,9 +48,9 @@ TEST(QuennelTables, FacesAreTheTrianglesOfTheLinesAndTheFirstSizeIsClosed) {
   std::map<int, int> facesOnLine;
   for (int f = 1; f <= kFaces; ++f) {
     std::array<int, 3> v = faceVertices(celllines, f);
-    EXPECT_EQ(linesOf(celllines, f),
-              (std::set<int>{lineBetween(v[0], v[1]), lineBetween(v[1], v[2]),
-                             lineBetween(v[0], v[2])}))
+    EXPECT_EQ(
+        linesOf(celllines, f),
+        (std::set<int>{lineBetween(v[0], v[1]), lineBetween(v[1], v[2]), lineBetween(v[0], v[2])}))
         << f;
     faces.insert(v);
     for (int line : linesOf(celllines, f)) {
@@ -133,8 +134,8 @@ TEST(QuennelTables, GamesListTheirSizeAndOnlyClassicAndOmbrelTurn) {
 // No circle covers another, and no line's number covers another's.
 TEST(QuennelLayout, CirclesAndLineNumbersStandClearOfEachOther) {
   auto apart = [](layout::Rect a, layout::Rect b) {
-    return a.left + a.width <= b.left || b.left + b.width <= a.left ||
-           a.top + a.height <= b.top || b.top + b.height <= a.top;
+    return a.left + a.width <= b.left || b.left + b.width <= a.left || a.top + a.height <= b.top ||
+           b.top + b.height <= a.top;
   };
   auto centreGap = [](layout::Rect a, layout::Rect b) {
     return std::hypot(a.left - b.left, a.top - b.top);
