@@ -30,27 +30,28 @@ constexpr double kIntroTick = 500;  // ms
 constexpr std::array<const char*, 4> kPlayerCaptions{"1 player verus the computer", "2 Players",
                                                      "3 Players", "2 Players versus the computer"};
 
-Element& placed(Element& e, const lay::Rect& r) {
-  e.Left = r.left;
-  e.Top = r.top;
-  e.Width = r.width;
-  e.Height = r.height;
-  return e;
+Element& at(Element& e, const lay::Rect& box) {
+  return placed(e, box.left, box.top, box.width, box.height);
 }
 
-Element& text(Element& e, const std::string& caption, double fontSize = 10, bool bold = false) {
-  e.Caption = caption;
-  e.FontSize = fontSize;
+// A transparent label in `box`: what stands behind it shows through.
+Element& label(Element& e, const lay::Rect& box, const std::string& caption, double points = 10,
+               bool bold = false) {
+  at(e, box).Caption = caption;
+  e.FontSize = points;
   e.FontBold = bold;
   e.BackStyle = 0;
   return e;
 }
 
+// The form's array `name`, read from `table`, which counts from 1.
+template <size_t N>
+void registerTable(Form& form, const char* name, const std::array<int, N>& table) {
+  form.varArray(name, 1, static_cast<int>(N) - 1,
+                [&table](int i) { return num(table.at(static_cast<size_t>(i))); });
+}
+
 }  // namespace
-
-Quennel::Quennel(Program& program) : Form(program, "Quennel") {}
-
-Quennel::~Quennel() = default;
 
 // The design first, in paint order; then everything is hidden for the
 // introduction, which ends by opening the first game.
@@ -59,7 +60,6 @@ void Quennel::Form_Load() {
   Width = lay::kFormWidth;
   Height = lay::kFormHeight;
   openAboveCentre = 300;
-  BackColor = kBoardColour;
   addSidePanel();
   addSolid();
   addStatus();
@@ -77,7 +77,7 @@ void Quennel::Form_Load() {
   ga_Click(kFirstGame);
   Label33->Caption.clear();
   for (Element& circle : *Shape1_) circle.Visible = false;
-  for (Element& label : *Label12_) label.Visible = false;
+  for (Element& number : *Label12_) number.Visible = false;
   Label13->Visible = false;
   for (Element& button : *Command8_) button.Visible = false;
   setStartMenusEnabled(false);
@@ -85,8 +85,11 @@ void Quennel::Form_Load() {
   Timer1->Enabled = true;
 }
 
+// The solid stands on grey at the left, the game's state on the pale panel
+// at the right.
 void Quennel::addSidePanel() {
-  placed(add("Picture2", Kind::Picture), lay::kSidePanel).BackColor = kPanelColour;
+  BackColor = kBoardColour;
+  at(add("Picture2", Kind::Picture), lay::kSidePanel).BackColor = kPanelColour;
 }
 
 // The lines, the circles of the faces, and the two kinds of number label,
@@ -94,111 +97,107 @@ void Quennel::addSidePanel() {
 void Quennel::addSolid() {
   LN_ = &addArray("LN", Kind::Line, 1, kLines);
   for (Element& line : *LN_) {
-    lay::Segment s = lay::lineAt(line.index);
-    line.X1 = s.x1;
-    line.Y1 = s.y1;
-    line.X2 = s.x2;
-    line.Y2 = s.y2;
+    const Ends& ends = lineEnds().at(static_cast<size_t>(line.index));
+    const Vertex& from = vertices().at(static_cast<size_t>(ends.from));
+    const Vertex& to = vertices().at(static_cast<size_t>(ends.to));
+    line.X1 = from.x;
+    line.Y1 = from.y;
+    line.X2 = to.x;
+    line.Y2 = to.y;
     line.BorderWidth = lay::lineWidth(line.index);
     line.BorderColor = kTetrahedronColours.at(static_cast<size_t>(tetrahedronOf(line.index)));
   }
   Shape1_ = &addArray("Shape1", Kind::Shape, 1, kFaces);
   for (Element& circle : *Shape1_) {
-    placed(circle, lay::faceCircleAt(circle.index));
+    at(circle, lay::faceCircleAt(circle.index));
     circle.Shape = Circle;
     circle.FillStyle = 0;
     circle.FillColor = kCircleFill;
     circle.BorderColor = color::Black;
   }
   Label12_ = &addArray("Label12", Kind::Label, 1, kFaces);
-  for (Element& label : *Label12_) {
-    placed(text(label, std::to_string(label.index), 9, true), lay::faceCircleAt(label.index));
-    label.ForeColor = kNumbers;
-    label.Alignment = AlignCenter;
-    label.Top += 90;  // the number stands in the middle of the circle
-    label.Height -= 90;
+  for (Element& number : *Label12_) {
+    label(number, lay::faceCircleAt(number.index), std::to_string(number.index), 9, true);
+    number.ForeColor = kNumbers;
+    number.Alignment = AlignCenter;
+    number.Top += 90;  // the number stands in the middle of the circle
+    number.Height -= 90;
   }
   sdfx_ = &addArray("sdfx", Kind::Label, 1, kLines);
-  for (Element& label : *sdfx_) {
-    placed(text(label, std::to_string(label.index), 8, true), lay::lineLabelAt(label.index));
-    label.ForeColor = kNumbers;
-    label.BackStyle = 1;
-    label.BackColor = kCircleFill;
-    label.Alignment = AlignCenter;
+  // A line's number stands on a dark patch, so that it reads over the lines
+  // that cross behind it.
+  for (Element& number : *sdfx_) {
+    label(number, lay::lineLabelAt(number.index), std::to_string(number.index), 8, true);
+    number.ForeColor = kNumbers;
+    number.BackStyle = 1;
+    number.BackColor = kCircleFill;
+    number.Alignment = AlignCenter;
   }
 }
 
 void Quennel::addStatus() {
-  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 10, true);
-  Label33 = &text(placed(add("Label33", Kind::Label), lay::kStatus), "", 11, true);
+  Label36 = &label(add("Label36", Kind::Label), lay::kGameName, "", 10, true);
+  Label33 = &label(add("Label33", Kind::Label), lay::kStatus, "", 11, true);
   // Its colour is the mover's, black included, so it stands on white.
   Label33->BackStyle = 1;
   Label33->BackColor = color::White;
   Label33->ForeColor = color::Blue;
   Label33->Alignment = AlignCenter;
-  Label34 = &text(placed(add("Label34", Kind::Label), lay::kMovesLeft), "20");
+  Label34 = &label(add("Label34", Kind::Label), lay::kMovesLeft, "20");
   Label34->Left += 1500;
   Label34->Width -= 1500;
-  text(placed(add("Label9", Kind::Label), lay::kMovesLeft), "Moves left:");
-  Label20 = &text(placed(add("Label20", Kind::Label), lay::kLastMove), kLastMove);
+  label(add("Label9", Kind::Label), lay::kMovesLeft, "Moves left:");
+  Label20 = &label(add("Label20", Kind::Label), lay::kLastMove, kLastMove);
 }
 
 // Blue's column on the left, Red's on the right: a heading, the points, and
 // the "Your turn" flag of the side to move.
 void Quennel::addScores() {
-  ElementArray& headings = addArray("Label8", Kind::Label, 0, 1);
+  ElementArray& names = addArray("Label8", Kind::Label, 0, 1);
   Label5 = &add("Label5", Kind::Label);
   Label6 = &add("Label6", Kind::Label);
   Label4 = &add("Label4", Kind::Label);
   Label3 = &add("Label3", Kind::Label);
-  struct Side {
-    Element& heading;
-    Element& points;
-    Element& yourTurn;
-    const char* name;
-    int colour;
-    double left;
-  };
-  std::array<Side, 2> sides{{{headings[0], *Label5, *Label4, "Blue", color::Blue, lay::kColumnLeft},
-                             {headings[1], *Label6, *Label3, "Red", kFaceRed, lay::kRedScoreLeft}}};
-  for (Side& side : sides) {
-    placed(text(side.heading, side.name, 10, true),
-           {side.left, lay::kScoreHeadingTop, lay::kScoreWidth, lay::kLineHeight});
-    placed(text(side.points, "0", 28, true),
-           {side.left, lay::kScoreTop, lay::kScoreWidth, lay::kScoreHeight});
-    placed(text(side.yourTurn, "Your turn", 10, true),
-           {side.left, lay::kYourTurnTop, lay::kScoreWidth, lay::kLineHeight});
-    for (Element* e : {&side.heading, &side.points, &side.yourTurn}) {
-      e->ForeColor = side.colour;
-      e->Alignment = AlignCenter;
-    }
-  }
+  addScoreColumn({&names[0], Label5, Label4}, "Blue", color::Blue, lay::kScoreLefts[0]);
+  addScoreColumn({&names[1], Label6, Label3}, "Red", kFaceRed, lay::kScoreLefts[1]);
   Label3->Visible = false;
 }
 
+// A player's name, points and "Your turn" flag, one under the other in the
+// player's colour.
+void Quennel::addScoreColumn(const std::array<Element*, 3>& column, const std::string& name,
+                             int colour, double left) {
+  const std::array<const std::string, 3> captions{name, "0", "Your turn"};
+  for (size_t i = 0; i < column.size(); ++i) {
+    lay::Rect box{left, lay::kScoreTops.at(i), lay::kScoreWidth, lay::kScoreHeights.at(i)};
+    Element& e = label(*column.at(i), box, captions.at(i), i == 1 ? 28 : 10, true);
+    e.ForeColor = colour;
+    e.Alignment = AlignCenter;
+  }
+}
+
 void Quennel::addViewAndNew() {
-  Label13 = &text(placed(add("Label13", Kind::Label), lay::kViewLabel), viewText(1), 11, true);
+  Label13 = &label(add("Label13", Kind::Label), lay::kViewLabel, viewText(1), 11, true);
   Label13->Alignment = AlignCenter;
   Command8_ = &addArray("Command8", Kind::Button, 0, 1);
-  placed((*Command8_)[0], lay::kViewDown).Caption = "<<";
-  placed((*Command8_)[1], lay::kViewUp).Caption = ">>";
-  Command3 = &placed(add("Command3", Kind::Button), lay::kNewGame);
+  at((*Command8_)[0], lay::kViewDown).Caption = "<<";
+  at((*Command8_)[1], lay::kViewUp).Caption = ">>";
+  Command3 = &at(add("Command3", Kind::Button), lay::kNewGame);
   Command3->Caption = "New game";
 
-  Picture3 = &placed(add("Picture3", Kind::Picture), lay::kGameOver);
+  Picture3 = &at(add("Picture3", Kind::Picture), lay::kGameOver);
   Picture3->BackColor = color::White;
   Picture3->Visible = false;
   Label15_ = &addArray("Label15", Kind::Label, 0, 3);
-  for (Element& label : *Label15_) {
-    int row = label.index / 2;
-    int column = label.index % 2;
-    placed(text(label, column == 0 ? "GAME" : "OVER", 24, true),
-           {lay::kGameOver.left + column * (lay::kColumnWidth - lay::kGameOverWidth),
-            lay::kGameOver.top + 30 + row * lay::kGameOverRow, lay::kGameOverWidth,
-            lay::kGameOverRow});
-    label.ForeColor = color::Red;
-    label.Alignment = AlignCenter;
-    label.Visible = false;
+  for (Element& over : *Label15_) {
+    int row = over.index / 2;
+    int column = over.index % 2;
+    lay::Rect box{lay::kGameOver.left + column * (lay::kColumnWidth - lay::kGameOverWidth),
+                  lay::kGameOver.top + 30 + row * lay::kGameOverRow, lay::kGameOverWidth,
+                  lay::kGameOverRow};
+    label(over, box, column == 0 ? "GAME" : "OVER", 24, true).ForeColor = color::Red;
+    over.Alignment = AlignCenter;
+    over.Visible = false;
   }
   Timer1 = &add("Timer1", Kind::Timer);
   Timer1->Interval = static_cast<int>(kIntroTick);
@@ -229,14 +228,19 @@ void Quennel::addGamesMenu() {
   tetsize(2).Caption = kMirrorSize;
 }
 
+// "1 player verus the computer" (ticked) and "2 Players"; the two entries
+// for other players stand in the menu unseen.
+void Quennel::addPlayerEntries() {
+  ip_ = &addMenuArray("ip", "zw", 0, 3);
+  for (Element& entry : *ip_) entry.Caption = kPlayerCaptions.at(static_cast<size_t>(entry.index));
+  ip(0).Checked = true;
+  ip(2).Visible = false;
+  ip(3).Visible = false;
+}
+
 void Quennel::addOptionsMenu() {
   zw = &addMenu("zw", "", "Options");
-  ip_ = &addMenuArray("ip", "zw", 0, 3);
-  for (Element& entry : *ip_) {
-    entry.Caption = kPlayerCaptions.at(static_cast<size_t>(entry.index));
-    entry.Visible = entry.index <= 1;
-  }
-  ip(0).Checked = true;
+  addPlayerEntries();
   addMenu("osep", "zw", "-");
   hidmov = &addMenu("hidmov", "zw", kHideMoves);
   hidmov->Checked = true;
@@ -259,17 +263,25 @@ void Quennel::addHelpMenu() {
 }
 
 void Quennel::registerHandlers() {
-  handleIndexed("sdfx_Click", [this](int n) { sdfx_Click(n); });
-  handleIndexed("Label12_Click", [this](int n) { Label12_Click(n); });
-  handleIndexed("ga_Click", [this](int i) { ga_Click(i); });
-  handleIndexed("tetsize_Click", [this](int i) { tetsize_Click(i); });
-  handleIndexed("ip_Click", [this](int i) { ip_Click(i); });
-  handleIndexed("Command8_Click", [this](int step) { Command8_Click(step); });
-  handle("hidmov_Click", [this] { hidmov_Click(); });
-  handle("new_Click", [this] { new_Click(); });
-  handle("Command3_Click", [this] { new_Click(); });
+  using Indexed = void (Quennel::*)(int);
+  for (auto [name, handler] : std::initializer_list<std::pair<const char*, Indexed>>{
+           {"sdfx_Click", &Quennel::sdfx_Click},
+           {"Label12_Click", &Quennel::Label12_Click},
+           {"ga_Click", &Quennel::ga_Click},
+           {"tetsize_Click", &Quennel::tetsize_Click},
+           {"ip_Click", &Quennel::ip_Click},
+           {"Command8_Click", &Quennel::Command8_Click}}) {
+    handleIndexed(name, [this, handler](int i) { (this->*handler)(i); });
+  }
+  using Plain = void (Quennel::*)();
+  for (auto [name, handler] : std::initializer_list<std::pair<const char*, Plain>>{
+           {"hidmov_Click", &Quennel::hidmov_Click},
+           {"new_Click", &Quennel::new_Click},
+           {"Command3_Click", &Quennel::new_Click},
+           {"Timer1_Timer", &Quennel::Timer1_Timer}}) {
+    handle(name, [this, handler] { (this->*handler)(); });
+  }
   handle("howmany_Click", [this] { MsgBox(kPyramids, kPyramidsTitle); });
-  handle("Timer1_Timer", [this] { Timer1_Timer(); });
 }
 
 void Quennel::registerVariables() {
@@ -285,14 +297,14 @@ void Quennel::registerVariables() {
                                                            {"openingmove", &openingmove}}) {
     var(name, *value);
   }
-  auto perLine = [](const auto& table) {
-    return [&table](int i) { return num(table.at(static_cast<size_t>(i))); };
-  };
-  varArray("linetaken", 1, kLines, perLine(linetaken));
-  varArray("linecolour", 1, kLines, perLine(linecolour));
-  varArray("facescored", 1, kFaces, perLine(facescored));
-  varArray("facetaken", 1, kFaces, perLine(facetaken));
-  varArray("sidecount", 1, kFaces, perLine(sidecount));
+  for (auto [name, table] : std::initializer_list<std::pair<const char*, const LineValues*>>{
+           {"linetaken", &linetaken}, {"linecolour", &linecolour}}) {
+    registerTable(*this, name, *table);
+  }
+  for (auto [name, table] : std::initializer_list<std::pair<const char*, const FaceCounts*>>{
+           {"facescored", &facescored}, {"facetaken", &facetaken}, {"sidecount", &sidecount}}) {
+    registerTable(*this, name, *table);
+  }
   auto perSide = [](const auto& table) {
     return [&table](int f, int slot) {
       return num(table.at(static_cast<size_t>(f)).at(static_cast<size_t>(slot)));

@@ -22,19 +22,17 @@
 
 #include "boards/quennel/computer.h"
 #include "boards/quennel/tables.h"
+#include "frame/grid_switch.h"
+#include "frame/keypad.h"
+#include "frame/other_games.h"
+#include "frame/round_list.h"
 #include "toolkit/form.h"
 
 namespace vrask {
 
-class GridSwitch;
-class Keypad;
-class OtherGames;
-class RoundList;
-
 class Quennel : public Form {
  public:
-  explicit Quennel(Program& program);
-  ~Quennel() override;
+  explicit Quennel(Program& program) : Form(program, "Quennel") {}
   void Form_Load() override;
 
  private:
@@ -43,9 +41,12 @@ class Quennel : public Form {
   void addSolid();
   void addStatus();
   void addScores();
+  void addScoreColumn(const std::array<Element*, 3>& column, const std::string& name, int colour,
+                      double left);
   void addViewAndNew();
   void addMenus();
   void addGamesMenu();
+  void addPlayerEntries();
   void addOptionsMenu();
   void addHelpMenu();
   void registerHandlers();
@@ -63,6 +64,7 @@ class Quennel : public Form {
   void grid_Click(bool on);
   void Command8_Click(int step);
   void new_Click();
+  void readyKeypad();
   void resetGame();
   void openTheGame();
   void setMenusEnabled(bool on);
@@ -105,41 +107,29 @@ class Quennel : public Form {
   void faceBrain();
 
   // --- elements by the board's own names ------------------------------------
+  // The board's arrays: lines, their numbers, the faces' circles and theirs.
   Element& LN(int i) { return (*LN_)[i]; }
   Element& sdfx(int i) { return (*sdfx_)[i]; }
   Element& Shape1(int i) { return (*Shape1_)[i]; }
   Element& Label12(int i) { return (*Label12_)[i]; }
+  ElementArray *LN_{}, *sdfx_{}, *Shape1_{}, *Label12_{};
+  // "GAME OVER", the view buttons.
+  ElementArray *Label15_{}, *Command8_{};
+  // Menu entries: games, players, sizes.
   Element& ga(int i) { return (*ga_)[i]; }
   Element& ip(int i) { return (*ip_)[i]; }
   Element& tetsize(int i) { return (*tetsize_)[i]; }
-
-  ElementArray* LN_ = nullptr;
-  ElementArray* sdfx_ = nullptr;
-  ElementArray* Shape1_ = nullptr;
-  ElementArray* Label12_ = nullptr;
-  ElementArray* Label15_ = nullptr;
-  ElementArray* Command8_ = nullptr;
-  ElementArray* ga_ = nullptr;
-  ElementArray* ip_ = nullptr;
-  ElementArray* tetsize_ = nullptr;
-  Element* Label3 = nullptr;    // Red's "Your turn"
-  Element* Label4 = nullptr;    // Blue's "Your turn"
-  Element* Label5 = nullptr;    // Blue's points
-  Element* Label6 = nullptr;    // Red's points
-  Element* Label13 = nullptr;   // the view
-  Element* Label20 = nullptr;   // the last move
-  Element* Label33 = nullptr;   // the status, in the colour face moves paint
-  Element* Label34 = nullptr;   // moves left
-  Element* Label36 = nullptr;   // the game
-  Element* Picture3 = nullptr;  // behind "GAME OVER"
-  Element* Command3 = nullptr;  // New game
-  Element* Timer1 = nullptr;    // the introduction
-  Element* kkj = nullptr;       // Games Menu
-  Element* sublmenu = nullptr;  // its sizes
-  Element* zw = nullptr;        // Options
-  Element* gg = nullptr;        // Help
-  Element* newMenu = nullptr;   // New
-  Element* hidmov = nullptr;
+  ElementArray *ga_{}, *ip_{}, *tetsize_{};
+  // The turn flags: Red's "Your turn", Blue's; the points: Blue's, Red's.
+  Element *Label3{}, *Label4{}, *Label5{}, *Label6{};
+  // The view, the last move, the status (in the colour face moves paint),
+  // the moves left, the game.
+  Element *Label13{}, *Label20{}, *Label33{}, *Label34{}, *Label36{};
+  // Behind "GAME OVER"; New game; the introduction's timer.
+  Element *Picture3{}, *Command3{}, *Timer1{};
+  // Menus: games, its sizes, options, help, New; the entry "Hide non-scoring
+  // made moves".
+  Element *kkj{}, *sublmenu{}, *zw{}, *gg{}, *newMenu{}, *hidmov{};
 
   std::unique_ptr<GridSwitch> grid_;
   std::unique_ptr<Keypad> keypad_;
@@ -171,14 +161,10 @@ class Quennel : public Form {
   int openingmove = 0;
   int introticks = 0;
   bool computersOwn = false;  // the face being played is the computer's
-  quennel::LineValues linetaken{};
-  quennel::LineValues linecolour{};
+  quennel::LineValues linetaken{}, linecolour{};
   quennel::SideMarks sidemark{};
-  quennel::FaceCounts facescored{};
-  quennel::FaceCounts facetaken{};
-  quennel::FaceCounts sidecount{};
-  std::vector<int> candidates;
-  std::vector<int> dangerlines;
+  quennel::FaceCounts facescored{}, facetaken{}, sidecount{};
+  std::vector<int> candidates, dangerlines;
 
   const quennel::Game& game() const;
   int faces() const { return quennel::facesOfSize(levelfull); }

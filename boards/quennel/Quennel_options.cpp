@@ -80,16 +80,16 @@ void Quennel::shofull() {
   }
 }
 
+// One player against the computer, or two. Two players may be far apart:
+// the keypad carries their moves.
 void Quennel::ip_Click(int i) {
-  if (i == 0) {
-    ip(0).Checked = true;
-    ip(1).Checked = false;
-    keypad_->close();
-  } else if (i == 1) {
-    // Two players may be far apart: the keypad carries their moves.
-    ip(1).Checked = true;
-    ip(0).Checked = false;
+  if (i > 1) return;
+  ip(0).Checked = i == 0;
+  ip(1).Checked = i == 1;
+  if (i == 1) {
     keypad_->open();
+  } else {
+    keypad_->close();
   }
 }
 
@@ -117,24 +117,26 @@ void Quennel::new_Click() {
   Picture3->Visible = false;
   setMenusEnabled(true);
   resetGame();
-  if (keypad_->on()) {
-    keypad_->text().Text.clear();
-    keypad_->panel().Visible = true;
-    keypad_->focusText();
-  }
-  setDefaultButton(*this, keypad_->enterButton());
+  readyKeypad();
   openTheGame();
 }
 
+// With the keypad on, it comes up empty, ready for the first number; its
+// "enter" is the default button all through the game.
+void Quennel::readyKeypad() {
+  setDefaultButton(*this, keypad_->enterButton());
+  if (!keypad_->on()) return;
+  keypad_->text().Text.clear();
+  keypad_->panel().Visible = true;
+  keypad_->focusText();
+}
+
 void Quennel::resetGame() {
-  linetaken = {};
-  linecolour = {};
-  linedrawn = {};
+  for (auto* table : {&linetaken, &linecolour}) table->fill(0);
+  for (auto* table : {&facescored, &facetaken, &sidecount}) table->fill(0);
   sidemark = {};
-  facescored = {};
-  facetaken = {};
+  linedrawn = {};
   facelook = {};
-  sidecount = {};
   candidates.clear();
   dangerlines.clear();
   Label5->Caption = "0";

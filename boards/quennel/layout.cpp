@@ -80,8 +80,10 @@ const std::array<Point, kLines + 1>& lineMiddles() {
   static const std::array<Point, kLines + 1> middles = [] {
     std::array<Point, kLines + 1> points{};
     for (int line = 1; line <= kLines; ++line) {
-      Segment s = lineAt(line);
-      points.at(static_cast<size_t>(line)) = {(s.x1 + s.x2) / 2, (s.y1 + s.y2) / 2};
+      const Ends& ends = lineEnds().at(static_cast<size_t>(line));
+      Point a = vertexAt(ends.from);
+      Point b = vertexAt(ends.to);
+      points.at(static_cast<size_t>(line)) = {(a.x + b.x) / 2, (a.y + b.y) / 2};
     }
     return spreadApart(points, std::hypot(kLabelWide, kLabelHigh) + 10);
   }();
@@ -89,13 +91,6 @@ const std::array<Point, kLines + 1>& lineMiddles() {
 }
 
 }  // namespace
-
-Segment lineAt(int line) {
-  const Ends& ends = lineEnds().at(static_cast<size_t>(line));
-  Point a = vertexAt(ends.from);
-  Point b = vertexAt(ends.to);
-  return {a.x, a.y, b.x, b.y};
-}
 
 int lineWidth(int line) {
   const Ends& ends = lineEnds().at(static_cast<size_t>(line));

@@ -4,20 +4,19 @@
 // never where the screen element stands.
 #pragma once
 
+#include <array>
+
 #include "boards/quennel/tables.h"
 #include "frame/helpers.h"
 
 namespace vrask::quennel::layout {
 
+// A line `LN(line)` runs between its two vertices, where `vertices()` puts
+// them; the labels and circles stand in boxes.
 struct Rect {
-  double left = 0, top = 0, width = 0, height = 0;
-};
-struct Segment {
-  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+  double left, top, width, height;
 };
 
-// Line `LN(line)` between its two vertices.
-Segment lineAt(int line);
 // Its drawn width, 1 (far at the back) to 4 (in front).
 int lineWidth(int line);
 // The number label `sdfx(line)`, near the middle of the line; it is also the
@@ -38,27 +37,31 @@ inline constexpr double kFormHeight = 10800;
 // The side panel behind both columns.
 inline constexpr Rect kSidePanel{8400, 0, kFormWidth - 8400, kFormHeight};
 
-// First column: the game, the turn, the scores, moves, view, New.
+// The first column, top to bottom, each row across its width.
 inline constexpr double kColumnLeft = 8580;
 inline constexpr double kColumnWidth = 3450;
-inline constexpr double kLineHeight = 285;
-inline constexpr Rect kGameName{kColumnLeft, 240, kColumnWidth, 540};
-inline constexpr Rect kStatus{kColumnLeft, 840, kColumnWidth, 600};
+constexpr Rect acrossColumn(double top, double height) {
+  return {kColumnLeft, top, kColumnWidth, height};
+}
+inline constexpr Rect kGameName = acrossColumn(240, 540);
+inline constexpr Rect kStatus = acrossColumn(840, 600);
+// Blue's name, points and turn flag one under the other at the left, Red's
+// at the right.
 inline constexpr double kScoreWidth = 1650;
-inline constexpr double kRedScoreLeft = kColumnLeft + 1800;
-inline constexpr double kScoreHeadingTop = 1560;
-inline constexpr double kScoreTop = 1830;
-inline constexpr double kScoreHeight = 720;
-inline constexpr double kYourTurnTop = 2580;
-inline constexpr Rect kMovesLeft{kColumnLeft, 3030, kColumnWidth, kLineHeight};
-inline constexpr Rect kLastMove{kColumnLeft, 3330, kColumnWidth, kLineHeight};
-inline constexpr Rect kViewLabel{kColumnLeft + 780, 3810, 1890, 390};
-inline constexpr Rect kViewDown{kColumnLeft, 3810, 690, 390};
-inline constexpr Rect kViewUp{kColumnLeft + 2760, 3810, 690, 390};
+inline constexpr std::array<double, 2> kScoreLefts{kColumnLeft, kColumnLeft + 1800};
+inline constexpr std::array<double, 3> kScoreTops{1560, 1830, 2580};
+inline constexpr std::array<double, 3> kScoreHeights{285, 720, 285};
+inline constexpr Rect kMovesLeft = acrossColumn(3030, 285);
+inline constexpr Rect kLastMove = acrossColumn(3330, 285);
+// The view between the buttons that turn it; New and the keypad's opener.
+inline constexpr double kViewTop = 3810;
+inline constexpr Rect kViewDown{kColumnLeft, kViewTop, 690, 390};
+inline constexpr Rect kViewLabel{kColumnLeft + 780, kViewTop, 1890, 390};
+inline constexpr Rect kViewUp{kColumnLeft + 2760, kViewTop, 690, 390};
 inline constexpr Rect kNewGame{kColumnLeft, 4440, 1650, 450};
 inline constexpr Place kKeypadOpener{kColumnLeft + 1800, 4470};
-// "GAME" "OVER" twice, in two rows, on their own backdrop.
-inline constexpr Rect kGameOver{kColumnLeft, 5190, kColumnWidth, 1260};
+// "GAME" "OVER" twice, in two rows of two, on their own backdrop.
+inline constexpr Rect kGameOver = acrossColumn(5190, 1260);
 inline constexpr double kGameOverRow = 600;
 inline constexpr double kGameOverWidth = 1650;
 

@@ -16,27 +16,13 @@
 
 namespace vrask::quennel {
 
-inline constexpr int kLines = 39;
-inline constexpr int kFaces = 36;
-inline constexpr int kVertices = 14;
-inline constexpr int kViews = 3;
-
-// The two sizes: the tetrahedron of side 2 (20 faces, lines 1..24), and the
-// same with its mirror image below the base (all 36 faces and 39 lines).
-// `levelfull` is 0 for the first, 1 for the second.
-inline int facesOfSize(int levelfull) {
-  return levelfull == 1 ? kFaces : 20;
-}
-inline int linesOfSize(int levelfull) {
-  return levelfull == 1 ? kLines : 24;
-}
-
 // --- vertices -------------------------------------------------------------
 
 // The solid is built on five big corners: the apex V, the base D, F, G and
 // the foot N. Every vertex is a big corner or the midpoint of an edge between
 // two of them, and is known by that pair (a corner by itself twice).
 enum Corner { CornerV, CornerD, CornerF, CornerG, CornerN };
+inline constexpr int kVertices = 14;
 
 struct Vertex {
   char name;
@@ -49,6 +35,22 @@ struct Vertex {
 const std::array<Vertex, kVertices>& vertices();
 // The index in `vertices()` of the vertex named `name`.
 int vertexIndex(char name);
+
+// --- counts ---------------------------------------------------------------
+
+inline constexpr int kLines = 39;
+inline constexpr int kFaces = 36;
+inline constexpr int kViews = 3;
+
+// The two sizes: the tetrahedron of side 2 (20 faces, lines 1..24), and the
+// same with its mirror image below the base (all 36 faces and 39 lines).
+// `levelfull` is 0 for the first, 1 for the second.
+inline int facesOfSize(int levelfull) {
+  return levelfull == 1 ? kFaces : 20;
+}
+inline int linesOfSize(int levelfull) {
+  return levelfull == 1 ? kLines : 24;
+}
 
 // --- lines and faces ------------------------------------------------------
 
