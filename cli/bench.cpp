@@ -76,6 +76,9 @@ class SeriesRun {
       : play_(play), program_(host_), dice_(seed) {
     registerSuite(program_);
     program_.open(play.form);
+    for (int i = 0; i < play.introTicks; ++i) {
+      program_.timerTick(form(), elementOf(form(), play.introTimer));
+    }
     for (const Choice& choice : setup.clicks) click(choice);
   }
 
