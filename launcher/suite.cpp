@@ -4,6 +4,8 @@
 #include "boards/flatland/play.h"
 #include "boards/zorvex/play.h"
 #include "boards/zorvex/zorvex.h"
+#include "boards/quennel/Quennel.h"
+#include "boards/quennel/play.h"
 #include "frame/about_box.h"
 #include "launcher/title.h"
 
@@ -24,6 +26,7 @@ const std::vector<Board>& boards() {
   static const std::vector<Board> list{
       {factory<Form1large>(), flatland::play()},
       {factory<zorvex>(), cube::play()},
+      {factory<Quennel>(), quennel::play()},
   };
   return list;
 }

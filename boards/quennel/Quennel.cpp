@@ -30,18 +30,10 @@ constexpr double kIntroTick = 500;  // ms
 constexpr std::array<const char*, 4> kPlayerCaptions{"1 player verus the computer", "2 Players",
                                                      "3 Players", "2 Players versus the computer"};
 
-Element& at(Element& e, const lay::Rect& box) {
-  return placed(e, box.left, box.top, box.width, box.height);
-}
-
-// A transparent label in `box`: what stands behind it shows through.
-Element& label(Element& e, const lay::Rect& box, const std::string& caption, double points = 10,
+// A label in `box` on the form's background.
+Element& label(Element& e, const Rect& box, const std::string& caption, double points = 10,
                bool bold = false) {
-  at(e, box).Caption = caption;
-  e.FontSize = points;
-  e.FontBold = bold;
-  e.BackStyle = 0;
-  return e;
+  return captioned(placed(e, box), caption, points, bold);
 }
 
 // The form's array `name`, read from `table`, which counts from 1.
@@ -56,7 +48,7 @@ void registerTable(Form& form, const char* name, const std::array<int, N>& table
 // The design first, in paint order; then everything is hidden for the
 // introduction, which ends by opening the first game.
 void Quennel::Form_Load() {
-  Caption = shared().product_title;
+  Caption = shared().text(shared::kProductTitle);
   Width = lay::kFormWidth;
   Height = lay::kFormHeight;
   openAboveCentre = 300;
@@ -69,11 +61,24 @@ void Quennel::Form_Load() {
   roundList_ = std::make_unique<RoundList>(
       *this, RoundListConfig{
                  .list = "List4", .firstRow = "", .afterWinner = "\t\t", .place = lay::kRoundList});
+  flow_ = std::make_unique<TurnFlow>(*this, *roundList_, *keypad_,
+                                     TurnFlowNames{.bluePoints = {"Label5", {}},
+                                                   .redPoints = {"Label6", {}},
+                                                   .blueTurn = {"Label4", {}},
+                                                   .redTurn = {"Label3", {}},
+                                                   .lastMove = "Label20",
+                                                   .newButton = "Command3",
+                                                   .gameMenus = {"opts", "zw", "kkj"}});
   registerHandlers();
   registerVariables();
 
   celllines = startgrids();
   turn = turned(celllines);
+  for (int f = 1; f <= kFaces; ++f) beyond.at(static_cast<size_t>(f)) = extension(celllines, f);
+  for (const Element& line : *LN_) {
+    designWidth.at(static_cast<size_t>(line.index)) = line.BorderWidth;
+    designColour.at(static_cast<size_t>(line.index)) = line.BorderColor;
+  }
   ga_Click(kFirstGame);
   Label33->Caption.clear();
   for (Element& circle : *Shape1_) circle.Visible = false;
@@ -89,7 +94,7 @@ void Quennel::Form_Load() {
 // at the right.
 void Quennel::addSidePanel() {
   BackColor = kBoardColour;
-  at(add("Picture2", Kind::Picture), lay::kSidePanel).BackColor = kPanelColour;
+  placed(add("Picture2", Kind::Picture), lay::kSidePanel).BackColor = kPanelColour;
 }
 
 // The lines, the circles of the faces, and the two kinds of number label,
@@ -109,7 +114,7 @@ void Quennel::addSolid() {
   }
   Shape1_ = &addArray("Shape1", Kind::Shape, 1, kFaces);
   for (Element& circle : *Shape1_) {
-    at(circle, lay::faceCircleAt(circle.index));
+    placed(circle, lay::faceCircleAt(circle.index));
     circle.Shape = Circle;
     circle.FillStyle = 0;
     circle.FillColor = kCircleFill;
@@ -169,7 +174,7 @@ void Quennel::addScoreColumn(const std::array<Element*, 3>& column, const std::s
                              int colour, double left) {
   const std::array<const std::string, 3> captions{name, "0", "Your turn"};
   for (size_t i = 0; i < column.size(); ++i) {
-    lay::Rect box{left, lay::kScoreTops.at(i), lay::kScoreWidth, lay::kScoreHeights.at(i)};
+    Rect box{left, lay::kScoreTops.at(i), lay::kScoreWidth, lay::kScoreHeights.at(i)};
     Element& e = label(*column.at(i), box, captions.at(i), i == 1 ? 28 : 10, true);
     e.ForeColor = colour;
     e.Alignment = AlignCenter;
@@ -180,21 +185,21 @@ void Quennel::addViewAndNew() {
   Label13 = &label(add("Label13", Kind::Label), lay::kViewLabel, viewText(1), 11, true);
   Label13->Alignment = AlignCenter;
   Command8_ = &addArray("Command8", Kind::Button, 0, 1);
-  at((*Command8_)[0], lay::kViewDown).Caption = "<<";
-  at((*Command8_)[1], lay::kViewUp).Caption = ">>";
-  Command3 = &at(add("Command3", Kind::Button), lay::kNewGame);
+  placed((*Command8_)[0], lay::kViewDown).Caption = "<<";
+  placed((*Command8_)[1], lay::kViewUp).Caption = ">>";
+  Command3 = &placed(add("Command3", Kind::Button), lay::kNewGame);
   Command3->Caption = "New game";
 
-  Picture3 = &at(add("Picture3", Kind::Picture), lay::kGameOver);
+  Picture3 = &placed(add("Picture3", Kind::Picture), lay::kGameOver);
   Picture3->BackColor = color::White;
   Picture3->Visible = false;
   Label15_ = &addArray("Label15", Kind::Label, 0, 3);
   for (Element& over : *Label15_) {
     int row = over.index / 2;
     int column = over.index % 2;
-    lay::Rect box{lay::kGameOver.left + column * (lay::kColumnWidth - lay::kGameOverWidth),
-                  lay::kGameOver.top + 30 + row * lay::kGameOverRow, lay::kGameOverWidth,
-                  lay::kGameOverRow};
+    Rect box{lay::kGameOver.left + column * (lay::kColumnWidth - lay::kGameOverWidth),
+             lay::kGameOver.top + 30 + row * lay::kGameOverRow, lay::kGameOverWidth,
+             lay::kGameOverRow};
     label(over, box, column == 0 ? "GAME" : "OVER", 24, true).ForeColor = color::Red;
     over.Alignment = AlignCenter;
     over.Visible = false;

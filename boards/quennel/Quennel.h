@@ -17,6 +17,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,7 @@
 #include "frame/keypad.h"
 #include "frame/other_games.h"
 #include "frame/round_list.h"
+#include "frame/turn_flow.h"
 #include "toolkit/form.h"
 
 namespace vrask {
@@ -64,10 +66,8 @@ class Quennel : public Form {
   void grid_Click(bool on);
   void Command8_Click(int step);
   void new_Click();
-  void readyKeypad();
   void resetGame();
   void openTheGame();
-  void setMenusEnabled(bool on);
 
   // --- the view: real elements on the screen ----------------------------------
   void drawView();
@@ -135,10 +135,15 @@ class Quennel : public Form {
   std::unique_ptr<Keypad> keypad_;
   std::unique_ptr<OtherGames> otherGames_;
   std::unique_ptr<RoundList> roundList_;
+  std::unique_ptr<TurnFlow> flow_;
 
   // --- the board ------------------------------------------------------------
   quennel::CellLines celllines{};
   quennel::Turn turn{};
+  // What a Super move paints beyond each face, and how each screen line is
+  // drawn while it is free; both fixed at load.
+  std::array<std::optional<std::array<int, 2>>, quennel::kFaces + 1> beyond{};
+  std::array<int, quennel::kLines + 1> designWidth{}, designColour{};
   // How each real face shows, whatever screen circle stands for it now.
   struct FaceLook {
     int rim = color::Black;

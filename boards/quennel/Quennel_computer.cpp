@@ -36,23 +36,21 @@ void Quennel::lineBrain() {
   dangerlines = dangerLines(celllines, sidecount, faces());
   if (dangerlines.size() > kMostDangerLines) dangerlines.resize(kMostDangerLines);
   candidates = lineCandidates(dangerlines, linetaken, lines());
-  int line = candidates.at(static_cast<size_t>(pick(static_cast<int>(candidates.size())) - 1));
+  int line = flow_->pickFrom(candidates);
   int free = 0;
   for (int l = 1; l <= lines(); ++l) free += linetaken.at(l) == 0 ? 1 : 0;
   Label34->Caption = std::to_string(free - 1);
   computerTakesLine(line);
   // No face had two sides, so this line closes none: Blue is next.
-  Label3->Visible = false;
-  Label4->Visible = true;
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = noScoreText("Blue");
+  flow_->showTurn(Side::Blue);
+  flow_->say(noScoreText("Blue"), color::Blue);
 }
 
 // The line shows yellow for a second before it turns Red; nothing moves on
 // the board meanwhile.
 void Quennel::computerTakesLine(int line) {
   finished = 1;
-  Label20->Caption = kLastMove + std::to_string(line);
+  flow_->showLastMove(line);
   markplayer = kRedMark;
   takeLine(line, kLineRed, kRedMark);
   Element& drawn = LN(screenLine(line));
@@ -77,11 +75,9 @@ void Quennel::faceBrain() {
   if (face == 0) return;
   Refresh();
   wait(kFacePause);
-  Label20->Caption = kLastMove + std::to_string(face);
-  Label4->Visible = false;
-  Label3->Visible = true;
-  Label33->Caption = kRedTurn;
-  Label33->ForeColor = kFaceRed;
+  flow_->showLastMove(face);
+  flow_->showTurn(Side::Red);
+  flow_->say(kRedTurn, kFaceRed);
   facetaken.at(static_cast<size_t>(face)) = 1;
 
   FaceLook& look = facelook.at(static_cast<size_t>(face));

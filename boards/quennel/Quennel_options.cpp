@@ -112,23 +112,11 @@ void Quennel::Command8_Click(int step) {
 // take turns to open.
 void Quennel::new_Click() {
   finished = 0;
-  Label20->Caption = kLastMove;
-  for (Element& label : *Label15_) label.Visible = false;
+  flow_->startNewGame();
   Picture3->Visible = false;
-  setMenusEnabled(true);
+  flow_->setGameMenusEnabled(true);
   resetGame();
-  readyKeypad();
   openTheGame();
-}
-
-// With the keypad on, it comes up empty, ready for the first number; its
-// "enter" is the default button all through the game.
-void Quennel::readyKeypad() {
-  setDefaultButton(*this, keypad_->enterButton());
-  if (!keypad_->on()) return;
-  keypad_->text().Text.clear();
-  keypad_->panel().Visible = true;
-  keypad_->focusText();
 }
 
 void Quennel::resetGame() {
@@ -139,18 +127,15 @@ void Quennel::resetGame() {
   facelook = {};
   candidates.clear();
   dangerlines.clear();
-  Label5->Caption = "0";
-  Label6->Caption = "0";
+  flow_->zeroScores();
   viewnum = 1;
   Label13->Caption = viewText(viewnum);
   for (Element& entry : *ga_) entry.Checked = entry.index == gamecode;
 
   movesleft = faces();
   Label34->Caption = std::to_string(lineGame() ? lines() : movesleft);
-  Label33->Caption = lineGame() ? kLineStart : kFaceStart;
-  Label33->ForeColor = color::Blue;
-  Label4->Visible = true;
-  Label3->Visible = false;
+  flow_->say(lineGame() ? kLineStart : kFaceStart, color::Blue);
+  flow_->showTurn(Side::Blue);
   drawView();
 }
 
@@ -164,14 +149,12 @@ void Quennel::openTheGame() {
   }
   openerflag = 1;
   whosnext = 1;
-  Label3->Visible = true;
-  Label4->Visible = false;
+  flow_->showTurn(Side::Red);
   if (lineGame()) {
     linecheck();
     return;
   }
-  Label33->ForeColor = kFaceRed;
-  Label33->Caption = kRedTurn;
+  flow_->say(kRedTurn, kFaceRed);
   if (!onePlayer()) return;
   // The computer's opening face is random and is played as a plain move;
   // the computer doesn't answer it.
@@ -179,10 +162,6 @@ void Quennel::openTheGame() {
   ip(0).Checked = false;
   Label12_Click(pick(movesleft));
   ip(0).Checked = true;
-}
-
-void Quennel::setMenusEnabled(bool on) {
-  for (Element* menu : {&otherGames_->menu(), zw, kkj}) menu->Enabled = on;
 }
 
 // --- the view ------------------------------------------------------------------
@@ -216,8 +195,8 @@ void Quennel::drawLine(int real) {
     line.BorderWidth = kTaken;
     line.BorderColor = linecolour.at(static_cast<size_t>(real));
   } else {
-    line.BorderWidth = layout::lineWidth(s);
-    line.BorderColor = kTetrahedronColours.at(static_cast<size_t>(tetrahedronOf(s)));
+    line.BorderWidth = designWidth.at(static_cast<size_t>(s));
+    line.BorderColor = designColour.at(static_cast<size_t>(s));
   }
   Element& label = sdfx(s);
   label.Visible = lineGame() && s <= lines() && linetaken.at(static_cast<size_t>(real)) == 0;

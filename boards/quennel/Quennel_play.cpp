@@ -1,6 +1,6 @@
 // The moves of a person: a line's number clicked, a face's circle clicked, a
 // number typed. Screen numbers become real numbers here, by the view.
-#include <cmath>
+#include <optional>
 
 #include "boards/quennel/Quennel.h"
 #include "boards/quennel/captions.h"
@@ -27,12 +27,11 @@ void Quennel::keyedmove(int screen) {
     MsgBox(kLineTaken);
     return;
   }
-  setMenusEnabled(false);
+  flow_->setGameMenusEnabled(false);
   whosnext = redMoves ? 0 : 1;
-  Label3->Visible = !redMoves;
-  Label4->Visible = redMoves;
+  flow_->showTurn(redMoves ? Side::Blue : Side::Red);
   markplayer = redMoves ? kRedMark : kBlueMark;
-  Label20->Caption = kLastMove + std::to_string(line);
+  flow_->showLastMove(line);
   takeLine(line, redMoves ? kLineRed : color::Blue, markplayer);
   linecheck();
 }
@@ -59,49 +58,37 @@ void Quennel::paintLine(int line, int colour) {
 void Quennel::paintFace(int face, int colour) {
   for (int slot = 1; slot <= 3; ++slot) paintLine(celllines.at(face).at(slot), colour);
   if (!game().super) return;
-  if (auto beyond = extension(celllines, face)) {
-    for (int line : *beyond) paintLine(line, colour);
+  if (const auto& lines = beyond.at(static_cast<size_t>(face))) {
+    for (int line : *lines) paintLine(line, colour);
   }
 }
 
 // A face move, by the circle on the screen, in the colour of the status.
 void Quennel::Label12_Click(int screen) {
   if (finished == 1 || lineGame()) return;
-  if (keypad_->on()) keypad_->focusText();
   int face = realFace(screen);
   if (facetaken.at(static_cast<size_t>(face)) != 0) {
     MsgBox(kFaceTaken);
     return;
   }
-  setMenusEnabled(false);
+  if (keypad_->on()) keypad_->focusText();
+  flow_->setGameMenusEnabled(false);
   facetaken.at(static_cast<size_t>(face)) = 1;
-  Label20->Caption = kLastMove + std::to_string(face);
+  flow_->showLastMove(face);
   Refresh();
   paintFace(face, Label33->ForeColor);
   afterFaceMove(face, false);
 }
 
-// The keypad's "enter": the number typed is the number a line or circle
-// shows on the screen now. A number that no shown label carries is dropped
-// without a word.
+// The keypad's "enter": the number typed is the number of a line or circle
+// on the screen now, and plays like a click on it. A number that names no
+// target that shows is dropped without a word.
 void Quennel::Command6_Click() {
-  Element& box = keypad_->text();
-  double n = Val(box.Text);
-  box.Text.clear();
-  bool whole = std::floor(n) == n && n >= 1;
-  if (whole && lineGame()) {
-    for (Element& label : *sdfx_) {
-      if (!label.Caption.empty() && Val(label.Caption) == n) {
-        keyedmove(label.index);
-        break;
-      }
-    }
-  } else if (whole && n <= kFaces) {
-    for (Element& label : *Label12_) {
-      if (label.Visible && !label.Caption.empty() && Val(label.Caption) == n) {
-        Label12_Click(label.index);
-        break;
-      }
+  if (std::optional<int> n = flow_->typedTarget(lineGame() ? *sdfx_ : *Label12_)) {
+    if (lineGame()) {
+      keyedmove(*n);
+    } else {
+      Label12_Click(*n);
     }
   }
   focusTypedMoves();

@@ -15,10 +15,6 @@ namespace {
 
 constexpr double kFlash = 1;  // seconds a closed face shows yellow, and after
 
-void addPoints(Element& score, int points) {
-  score.Caption = std::to_string(static_cast<int>(Val(score.Caption)) + points);
-}
-
 }  // namespace
 
 // --- line games ----------------------------------------------------------------
@@ -26,7 +22,7 @@ void addPoints(Element& score, int points) {
 // After a line: the faces it closed score for the side that drew it, who then
 // moves again; the game ends when no line of the size is free.
 void Quennel::linecheck() {
-  setMenusEnabled(false);
+  flow_->setGameMenusEnabled(false);
   sidecount = countMarkedSides(sidemark, faces());
   std::vector<int> newFaces;
   for (int f = 1; f <= faces(); ++f) {
@@ -54,9 +50,9 @@ void Quennel::announceLineScore(int newFaces) {
     return;
   }
   whosnext = blueMoved ? 0 : 1;
-  addPoints(blueMoved ? *Label5 : *Label6, newFaces);
-  Label4->Visible = blueMoved;
-  Label3->Visible = !blueMoved;
+  Side mover = blueMoved ? Side::Blue : Side::Red;
+  flow_->addPoints(mover, newFaces);
+  flow_->showTurn(mover);
   Label33->Caption = scoreText(newFaces, blueMoved ? "Blue" : "Red");
 }
 
@@ -115,10 +111,8 @@ void Quennel::afterFaceMove(int face, bool computersOwn) {
 
 void Quennel::passFaceTurn() {
   bool redNext = Label4->Visible;
-  Label4->Visible = !redNext;
-  Label3->Visible = redNext;
-  Label33->Caption = redNext ? kRedTurn : kBlueTurn;
-  Label33->ForeColor = redNext ? kFaceRed : color::Blue;
+  flow_->showTurn(redNext ? Side::Red : Side::Blue);
+  flow_->say(redNext ? kRedTurn : kBlueTurn, redNext ? kFaceRed : color::Blue);
 }
 
 // A side counts for the colour of its line when that is a player's.
@@ -159,8 +153,9 @@ void Quennel::countPoints() {
     }
     drawFace(f);
   }
-  Label5->Caption = std::to_string(blue);
-  Label6->Caption = std::to_string(red);
+  flow_->zeroScores();
+  flow_->addPoints(Side::Blue, blue);
+  flow_->addPoints(Side::Red, red);
 }
 
 // "Hide non-scoring made moves": faces played or dead that score for nobody.
@@ -190,7 +185,7 @@ void Quennel::outtahere() {
   }
   if (face == 0) return;
   facetaken.at(face) = 1;
-  Label20->Caption = kLastMove + std::to_string(face);
+  flow_->showLastMove(face);
   paintFace(face, color::Black);
   FaceLook& played = facelook.at(static_cast<size_t>(face));
   played.rimWidth = kPlayedRim;
@@ -206,12 +201,8 @@ void Quennel::outtahere() {
 // menus stay closed until New.
 void Quennel::recordRound() {
   if (finished == 1) return;
-  roundList_->recordGame(static_cast<int>(Val(Label5->Caption)),
-                         static_cast<int>(Val(Label6->Caption)));
+  flow_->endGame();
   Picture3->Visible = true;
-  for (Element& label : *Label15_) label.Visible = true;
-  setDefaultButton(*this, *Command3);
-  SetFocus(*Command3);
   finished = 1;
   drawView();
 }

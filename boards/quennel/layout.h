@@ -13,9 +13,7 @@ namespace vrask::quennel::layout {
 
 // A line `LN(line)` runs between its two vertices, where `vertices()` puts
 // them; the labels and circles stand in boxes.
-struct Rect {
-  double left, top, width, height;
-};
+using vrask::Rect;
 
 // Its drawn width, 1 (far at the back) to 4 (in front).
 int lineWidth(int line);
