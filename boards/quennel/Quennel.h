@@ -165,7 +165,6 @@ class Quennel : public Form {
   int finished = 0;
   int openingmove = 0;
   int introticks = 0;
-  bool computersOwn = false;  // the face being played is the computer's
   quennel::LineValues linetaken{}, linecolour{};
   quennel::SideMarks sidemark{};
   quennel::FaceCounts facescored{}, facetaken{}, sidecount{};
