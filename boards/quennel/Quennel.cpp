@@ -269,22 +269,22 @@ void Quennel::addHelpMenu() {
 
 void Quennel::registerHandlers() {
   using Indexed = void (Quennel::*)(int);
-  for (auto [name, handler] : std::initializer_list<std::pair<const char*, Indexed>>{
+  for (const auto& [name, entry] : std::initializer_list<std::pair<const char*, Indexed>>{
            {"sdfx_Click", &Quennel::sdfx_Click},
            {"Label12_Click", &Quennel::Label12_Click},
            {"ga_Click", &Quennel::ga_Click},
            {"tetsize_Click", &Quennel::tetsize_Click},
            {"ip_Click", &Quennel::ip_Click},
            {"Command8_Click", &Quennel::Command8_Click}}) {
-    handleIndexed(name, [this, handler](int i) { (this->*handler)(i); });
+    handleIndexed(name, [this, handler = entry](int i) { (this->*handler)(i); });
   }
   using Plain = void (Quennel::*)();
-  for (auto [name, handler] : std::initializer_list<std::pair<const char*, Plain>>{
+  for (const auto& [name, entry] : std::initializer_list<std::pair<const char*, Plain>>{
            {"hidmov_Click", &Quennel::hidmov_Click},
            {"new_Click", &Quennel::new_Click},
            {"Command3_Click", &Quennel::new_Click},
            {"Timer1_Timer", &Quennel::Timer1_Timer}}) {
-    handle(name, [this, handler] { (this->*handler)(); });
+    handle(name, [this, handler = entry] { (this->*handler)(); });
   }
   handle("howmany_Click", [this] { MsgBox(kPyramids, kPyramidsTitle); });
 }
