@@ -54,7 +54,7 @@ inline constexpr Rect kLastMove = acrossColumn(3330, 285);
 // The view between the buttons that turn it; New and the keypad's opener.
 inline constexpr double kViewTop = 3810;
 inline constexpr Rect kViewDown{kColumnLeft, kViewTop, 690, 390};
-inline constexpr Rect kViewLabel{kColumnLeft + 780, kViewTop, 1890, 390};
+inline constexpr Rect kViewLabel{kColumnLeft + 780, kViewTop + 45, 1890, 345};
 inline constexpr Rect kViewUp{kColumnLeft + 2760, kViewTop, 690, 390};
 inline constexpr Rect kNewGame{kColumnLeft, 4440, 1650, 450};
 inline constexpr Place kKeypadOpener{kColumnLeft + 1800, 4470};

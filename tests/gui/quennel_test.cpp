@@ -13,7 +13,7 @@ namespace vrask::gui_test {
 TEST(Quennel, OpensFromTheFrontPageAndPlaysFacesAndLinesInTurnedViews) {
   WindowRun run;
   run.program.open("title");
-  run.program.timerTick(run.form(), run.element("Timer2"));
+  run.windows.timerTick(run.form(), run.element("Timer2"));
   run.click("Label11", 100);
   ASSERT_EQ(run.form().name(), "Quennel");
   run.window().resize(1000, 690);
@@ -23,7 +23,7 @@ TEST(Quennel, OpensFromTheFrontPageAndPlaysFacesAndLinesInTurnedViews) {
     return std::get<double>(board.variables().at(name).get(index));
   };
   // The introduction brings the circles in one by one, then opens the game.
-  for (int tick = 0; tick < 24; ++tick) run.program.timerTick(board, run.element("Timer1"));
+  for (int tick = 0; tick < 24; ++tick) run.windows.timerTick(board, run.element("Timer1"));
   EXPECT_TRUE(run.element("Command3").Enabled);
   QTest::qWait(100);
   run.screenshot(run.window(), "quennel-start");
