@@ -76,7 +76,7 @@ void Quennel::Label12_Click(int screen) {
   facetaken.at(static_cast<size_t>(face)) = 1;
   flow_->showLastMove(face);
   Refresh();
-  paintFace(face, Label33->ForeColor);
+  paintFace(face, flow_->moverColour());
   afterFaceMove(face, false);
 }
 

@@ -45,8 +45,7 @@ void Quennel::linecheck() {
 void Quennel::announceLineScore(int newFaces) {
   bool blueMoved = whosnext == 1;
   if (newFaces == 0) {
-    Label33->Caption = noScoreText(blueMoved ? "Red" : "Blue");
-    Label33->ForeColor = blueMoved ? kRedStatus : color::Blue;
+    flow_->say(noScoreText(blueMoved ? "Red" : "Blue"), blueMoved ? kRedStatus : color::Blue);
     return;
   }
   whosnext = blueMoved ? 0 : 1;
@@ -83,7 +82,7 @@ void Quennel::flash(const std::vector<int>& closed) {
 // every face is judged afresh from its lines, and the moves left decide the
 // end. The last face of a Vrask-move game plays itself.
 void Quennel::afterFaceMove(int face, bool computersOwn) {
-  int colour = Label33->ForeColor;
+  int colour = flow_->moverColour();
   for (int slot = 1; slot <= 3; ++slot) {
     int line = celllines.at(face).at(slot);
     for (int f = 1; f <= kFaces; ++f) {
@@ -176,8 +175,7 @@ int Quennel::countMovesLeft() {
 // The Vrask move: the one face left plays itself in black, nobody's colour,
 // and its lines count for nobody any more.
 void Quennel::outtahere() {
-  Label33->Caption = kVraskMove;
-  Label33->ForeColor = color::Black;
+  flow_->say(kVraskMove, color::Black);
   movesleft = countMovesLeft();
   int face = 0;
   for (int f = 1; f <= faces() && face == 0; ++f) {
