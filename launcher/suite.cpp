@@ -2,10 +2,10 @@
 
 #include "boards/flatland/Form1large.h"
 #include "boards/flatland/play.h"
-#include "boards/zorvex/play.h"
-#include "boards/zorvex/zorvex.h"
 #include "boards/quennel/Quennel.h"
 #include "boards/quennel/play.h"
+#include "boards/zorvex/play.h"
+#include "boards/zorvex/zorvex.h"
 #include "frame/about_box.h"
 #include "launcher/title.h"
 

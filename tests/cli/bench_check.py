@@ -8,7 +8,7 @@ import re
 import subprocess
 import sys
 
-SQUARE_BOARD_SIGNATURE = "dff0aa4bba161396"
+SQUARE_BOARD_SIGNATURE = "f9d85e89c19a018c"
 
 
 def bench(*args):
