@@ -114,11 +114,9 @@ void Quennel::addSolid() {
   }
   Shape1_ = &addArray("Shape1", Kind::Shape, 1, kFaces);
   for (Element& circle : *Shape1_) {
-    placed(circle, lay::faceCircleAt(circle.index));
-    circle.Shape = Circle;
-    circle.FillStyle = 0;
+    placed(circle, lay::faceCircleAt(circle.index)).Shape = Circle;
+    circle.FillStyle = 0;  // a solid disc
     circle.FillColor = kCircleFill;
-    circle.BorderColor = color::Black;
   }
   Label12_ = &addArray("Label12", Kind::Label, 1, kFaces);
   for (Element& number : *Label12_) {
@@ -182,8 +180,8 @@ void Quennel::addScoreColumn(const std::array<Element*, 3>& column, const std::s
 }
 
 void Quennel::addViewAndNew() {
-  Label13 = &label(add("Label13", Kind::Label), lay::kViewLabel, viewText(1), 11, true);
-  Label13->Alignment = AlignCenter;
+  Label13 = &add("Label13", Kind::Label);
+  label(*Label13, lay::kViewLabel, viewText(1), 11, true).Alignment = AlignCenter;
   Command8_ = &addArray("Command8", Kind::Button, 0, 1);
   placed((*Command8_)[0], lay::kViewDown).Caption = "<<";
   placed((*Command8_)[1], lay::kViewUp).Caption = ">>";
@@ -229,8 +227,7 @@ void Quennel::addGamesMenu() {
   addMenu("gsep", "kkj", "-");
   sublmenu = &addMenu("sublmenu", "kkj", "Board size");
   tetsize_ = &addMenuArray("tetsize", "sublmenu", 1, 2);
-  tetsize(1).Caption = kNormalSize;
-  tetsize(2).Caption = kMirrorSize;
+  for (Element& entry : *tetsize_) entry.Caption = kSizeNames.at(static_cast<size_t>(entry.index));
 }
 
 // "1 player verus the computer" (ticked) and "2 Players"; the two entries

@@ -10,13 +10,11 @@ namespace vrask {
 
 using namespace quennel;
 
-namespace {
-
+// Seconds a line of the computer's shows yellow, and a face; the lines of
+// faces with one marked side that it keeps count of.
 constexpr double kLinePause = 1;
 constexpr double kFacePause = 2;
 constexpr size_t kMostDangerLines = 150;
-
-}  // namespace
 
 // Close every face that has two sides, lowest first, judging again after
 // each so that it scores and moves again; with none, a random line that

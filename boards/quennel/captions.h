@@ -1,6 +1,7 @@
 // The texts the tetrahedron board shows, to the character.
 #pragma once
 
+#include <array>
 #include <string>
 
 namespace vrask::quennel {
@@ -39,8 +40,9 @@ inline constexpr const char* kBlueTurn = "Blue player's turn";
 inline constexpr const char* kVraskMove = "Vrask!";
 inline constexpr const char* kLineTaken = "   Invalid move!";
 inline constexpr const char* kFaceTaken = "Invalid move!";
-inline constexpr const char* kNormalSize = "Normal original-sized Quennel  (20 grids)";
-inline constexpr const char* kMirrorSize = "New mirror-sized Quennel  (36 grids)";
+// The two sizes, by their menu index.
+inline constexpr std::array<const char*, 3> kSizeNames{
+    "", "Normal original-sized Quennel  (20 grids)", "New mirror-sized Quennel  (36 grids)"};
 inline constexpr const char* kHideMoves = "Hide non-scoring made moves in Vrask games";
 inline constexpr const char* kPyramidsTitle = "Well?";
 inline constexpr const char* kPyramids =

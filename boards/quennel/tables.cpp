@@ -101,11 +101,11 @@ const std::array<Ends, kLines + 1>& lineEnds() {
 
 int lineBetween(int a, int b) {
   const auto& ends = lineEnds();
-  for (int line = 1; line <= kLines; ++line) {
-    const Ends& e = ends.at(static_cast<size_t>(line));
-    if ((e.from == a && e.to == b) || (e.from == b && e.to == a)) return line;
-  }
-  return 0;
+  auto joins = [a, b](const Ends& e) {
+    return (e.from == a && e.to == b) || (e.from == b && e.to == a);
+  };
+  auto found = std::find_if(ends.begin() + 1, ends.end(), joins);
+  return found == ends.end() ? 0 : static_cast<int>(found - ends.begin());
 }
 
 std::vector<int> tetrahedronLines(int tetrahedron) {

@@ -1,5 +1,6 @@
 // The tetrahedron board in the real window: opened from the front page, a
 // face game played in two views, then a line game of the mirrored size.
+#include <tuple>
 #include <variant>
 
 #include <QAction>
@@ -16,9 +17,9 @@ TEST(Quennel, OpensFromTheFrontPageAndPlaysFacesAndLinesInTurnedViews) {
   run.windows.timerTick(run.form(), run.element("Timer2"));
   run.click("Label11", 100);
   ASSERT_EQ(run.form().name(), "Quennel");
+  Form& board = run.form();
   run.window().resize(1000, 690);
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&run.window()));
-  Form& board = run.form();
   auto variable = [&](const std::string& name, const std::vector<int>& index = {}) {
     return std::get<double>(board.variables().at(name).get(index));
   };
@@ -51,11 +52,12 @@ TEST(Quennel, OpensFromTheFrontPageAndPlaysFacesAndLinesInTurnedViews) {
   for (int line : {37, 25, 11}) run.click("sdfx", line);
   EXPECT_NE(variable("linetaken", {37}), 0);
   QTest::mouseClick(run.control("Command8(0)"), Qt::LeftButton);
-  QTest::qWait(100);
-  run.screenshot(run.window(), "quennel-lines-view-3");
-  run.window().resize(640, 460);
-  QTest::qWait(100);
-  run.screenshot(run.window(), "quennel-lines-small");
+  for (auto [width, height, name] : {std::tuple{1000, 690, "quennel-lines-view-3"},
+                                     std::tuple{640, 460, "quennel-lines-small"}}) {
+    run.window().resize(width, height);
+    QTest::qWait(100);
+    run.screenshot(run.window(), name);
+  }
 }
 
 }  // namespace vrask::gui_test
