@@ -78,6 +78,9 @@ class SeriesRun {
     // "Other Games" entries, and its signature is of its own games.
     registerSuite(program_, play.form);
     program_.open(play.form);
+    for (int i = 0; i < play.introTicks; ++i) {
+      program_.timerTick(form(), elementOf(form(), play.introTimer));
+    }
     for (const Choice& choice : setup.clicks) click(choice);
   }
 

@@ -61,11 +61,19 @@ struct PlayDescriptor {
   std::function<std::pair<int, int>(Form&)> points;
   std::function<std::optional<std::string>(Form&)> scoresDisagree;
 
+  // A board that opens with an introduction holds everything closed until
+  // its timer has ticked so often; the introduction then opens the first game.
+  Choice introTimer;
+  int introTicks = 0;
+
   // Where a finished game is written: the round list and the labels of the
   // two totals.
   std::string roundList = "List2";
   // What stands between the winner and each score in a row of it.
   std::string roundTab = "\t";
+  // Between the winner and Blue's points, where a board's rows have another
+  // gap there than between the scores.
+  std::optional<std::string> afterWinner;
   Choice blueTotal{"Label7", 5};
   Choice redTotal{"Label7", 6};
 

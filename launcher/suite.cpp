@@ -4,6 +4,8 @@
 #include "boards/flatland/play.h"
 #include "boards/hypercube/form5d2.h"
 #include "boards/hypercube/play.h"
+#include "boards/quennel/Quennel.h"
+#include "boards/quennel/play.h"
 #include "boards/zorvex/play.h"
 #include "boards/zorvex/zorvex.h"
 #include "frame/about_box.h"
@@ -27,6 +29,7 @@ const std::vector<Board>& boards() {
       {factory<Form1large>(), flatland::play()},
       {factory<zorvex>(), cube::play()},
       {factory<form5d2>(), hypercube::play()},
+      {factory<Quennel>(), quennel::play()},
   };
   return list;
 }
