@@ -143,6 +143,8 @@ ElementArray::ElementArray(std::string name, Kind kind, int lo, int hi, bool ind
     e.index = indexed ? i : -1;
     e.kind = kind;
     if (kind == Kind::Timer) e.Enabled = false;
+    // A shape is transparent behind its fill until a form makes it opaque.
+    if (kind == Kind::Shape) e.BackStyle = 0;
   }
 }
 
