@@ -70,8 +70,9 @@ inline constexpr Place kTimeBar{kColumnLeft, 6930};
 // Working elements that show nothing.
 inline constexpr Rect kHidden{kColumnLeft, 9000, 1200, 255};
 
-// Second column: the round list, the keypad below it.
+// Second column: the round list, a second New under it, the keypad.
 inline constexpr Place kRoundList{14130, 240};
-inline constexpr Place kKeypad{14850, 3480};
+inline constexpr Rect kNewRound{14130, 3240, 1650, 390};
+inline constexpr Place kKeypad{14850, 3780};
 
 }  // namespace vrask::triangular::layout

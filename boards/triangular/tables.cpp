@@ -276,7 +276,8 @@ Hidden hiddenBySize(int size) {
 
 int movestotal(int game, int size) {
   Hidden hidden = hiddenBySize(size);
-  if (playedOnLines(game)) return kLines - static_cast<int>(hidden.lines.size());
+  // Dorvel is counted by its cells, as the circle games are.
+  if (game == Ombrel || game == LineVrask) return kLines - static_cast<int>(hidden.lines.size());
   return kCells - static_cast<int>(hidden.cells.size());
 }
 

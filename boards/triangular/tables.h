@@ -75,8 +75,8 @@ struct Hidden {
 };
 Hidden hiddenBySize(int size);
 
-// The moves a game has at a size: its lines in the games on lines, else its
-// cells.
+// The moves a game has at a size: its lines in Ombrel and Line Vrask, else
+// its cells.
 int movestotal(int game, int size);
 
 // The colour each line is drawn in while free (index 0 unused).

@@ -1,0 +1,149 @@
+// The computer plays Red when "1 player verus the computer" is ticked. It has
+// two brains that share nothing: one draws lines in Ombrel, the other plays
+// circles (`redchack`). computer.h holds their decisions; these are the
+// moves they make, with their pauses.
+#include <string>
+
+#include "boards/triangular/Triang.h"
+#include "boards/triangular/captions.h"
+#include "boards/triangular/look.h"
+#include "frame/sudden_death.h"
+
+namespace vrask {
+
+using namespace triangular;
+
+namespace {
+
+constexpr double kLinePause = 0.5;
+constexpr double kCirclePause = 2;
+constexpr int kComputerMark = 1;
+
+}  // namespace
+
+// Ombrel: close the lowest cell with two sides and judge again, so the cell
+// counts for Red and the computer draws again; with nothing to close, a
+// random line that gives no cell its second side, if there is one.
+void Triang::computerLineMove() {
+  inputlock = 1;
+  sidecount = countMarkedSides(sidemark);
+  candidates = cellsToClose(sidecount);
+  whosnext = 0;
+  if (!candidates.empty()) {
+    int cell = candidates.front();
+    for (size_t slot = 0; slot < 3; ++slot) {
+      if (sidemark.at(cell).at(slot) == 0) drawComputerLine(celllines.at(cell).at(slot));
+    }
+    judgeLines();
+    return;
+  }
+
+  candidates = lineCandidates(celllines, sidecount, lineowner,
+                              [this](int line) { return lineShows(line); });
+  drawComputerLine(candidates.at(static_cast<size_t>(pick(static_cast<int>(candidates.size())) - 1)));
+  Label13->Caption = movesLeft(kLines - linesTakenOrHidden());
+  // No cell had two sides, so this line closes nothing: Blue is next.
+  Label4(0).Visible = false;
+  Label4(1).Visible = true;
+  Label33->ForeColor = color::Blue;
+  Label33->Caption = noScore("Blue");
+  inputlock = 0;
+  sd_->restart();
+}
+
+// The line shows in yellow while the computer pauses; the pause lets events
+// through, and `inputlock` keeps the clicks among them out. Like any first
+// move, it closes the sizes.
+void Triang::drawComputerLine(int line) {
+  showSizeControls(false);
+  ln1(line).BorderWidth = kDrawn;
+  if (bubbleland()) bbland(line);
+  ln1(line).BorderColor = color::Yellow;
+  Refresh();
+  waitWithEvents(kLinePause);
+  Label12->Caption = kLastMove + std::to_string(line);
+  ln1(line).BorderColor = color::Red;
+  lineowner.at(line) = kComputerMark;
+  markSides(line, mark);
+}
+
+// The twin of a rim line the computer draws, drawn and taken with it.
+void Triang::bbland(int line) {
+  int twin = twinOf(line);
+  if (twin == 0) return;
+  paintLine(twin, color::Red);
+  lineowner.at(twin) = kComputerMark;
+  markSides(twin, mark);
+}
+
+// The circle games: the lowest free cell among those with the most drawn
+// lines, else a random free cell. It plays only when the status is Red; the
+// count after its move finds the last free cell, which the program plays.
+void Triang::redchack() {
+  auto shows = [this](int cell) { return cellShows(cell); };
+  linecount = countDrawnLines(celllines, [this](int line) { return drawn(line); });
+  int cell = redchackTarget(linecount, celltaken, shows);
+  if (cell == 0) {
+    // Every free cell is bare. No count follows: the next move's judging
+    // makes it.
+    if (Label33->ForeColor != color::Red) return;
+    candidates = freeCells(celltaken, shows);
+    cell = candidates.at(static_cast<size_t>(pick(static_cast<int>(candidates.size())) - 1));
+    Refresh();
+    wait(kCirclePause);
+    compmove(cell);
+    paintRedExtension(cell);
+    return;
+  }
+  // Once the program has played the last cell, nothing follows.
+  if (endgameflag == 1) return;
+  if (Label33->ForeColor == color::Red) {
+    Refresh();
+    wait(kCirclePause);
+    Label12->Caption = kLastMove + std::to_string(cell);
+    compmove(cell);
+    paintRedExtension(cell);
+    zeroPoints();
+    FreeCells before = countFreeCells();
+    Label13->Caption = movesLeft(before.count);
+    judgeCells();
+    if (before.count == 1) {
+      playLastCell(before.last);
+      endgameflag = 1;
+      return;
+    }
+  }
+  FreeCells after = countFreeCells();
+  Label13->Caption = movesLeft(after.count);
+  if (after.count == 1) {
+    playLastCell(after.last);
+    endgameflag = 1;
+  } else if (after.count == 0) {
+    // The computer's move closed the last free cells at once.
+    outtahere();
+  }
+}
+
+// The computer's extension goes in Red; then the label turns Blue, so the
+// player's next move paints in Blue, while its text still says Red's turn.
+void Triang::paintRedExtension(int cell) {
+  Label33->ForeColor = color::Red;
+  paintExtension(cell, Label33->ForeColor);
+  Label33->ForeColor = color::Blue;
+}
+
+// A circle move by the program, in the colour of the status label: Red's
+// move, or with the label Black and "Vrask!", the last cell of the game, which
+// paints its extension and ends the game.
+void Triang::compmove(int cell) {
+  if (finished == 1 || freshboard == 1) return;
+  celltaken.at(cell) = 1;
+  Shape1(cell).BorderColor = color::Green;
+  paintCell(cell, Label33->ForeColor);
+  if (Label33->Caption != kVraskMove) return;
+  paintExtension(cell, Label33->ForeColor);
+  Label13->Caption.clear();
+  outtahere();
+}
+
+}  // namespace vrask
