@@ -97,8 +97,9 @@ std::optional<Value> Element::get(std::string_view property, std::optional<int> 
 
 const std::vector<std::string_view>& Element::stateProperties(Kind kind) {
   static const std::vector<std::string_view> line{"BorderWidth", "BorderColor", "Visible"};
-  static const std::vector<std::string_view> shape{"FillColor",   "FillStyle", "BorderColor",
-                                                   "BorderWidth", "Shape",     "Visible"};
+  static const std::vector<std::string_view> shape{"FillColor", "FillStyle",   "BackColor",
+                                                   "BackStyle", "BorderColor", "BorderWidth",
+                                                   "Shape",     "Visible"};
   static const std::vector<std::string_view> label{"Caption",   "ForeColor", "BackColor",
                                                    "BackStyle", "Visible",   "Enabled"};
   static const std::vector<std::string_view> menu{"Caption", "Checked", "Enabled", "Visible"};
