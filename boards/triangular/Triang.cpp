@@ -200,8 +200,8 @@ void Triang::addGamesMenu() {
   game_ = &addMenuArray("game", "sks", 0, kGameSlots - 1);
   for (Element& entry : *game_) {
     entry.Caption = kGameCaptions.at(static_cast<size_t>(entry.index));
-    entry.Visible = entry.index == Ombrel || entry.index == SuperVrask ||
-                    entry.index == SuperVraskPlus;
+    entry.Visible =
+        entry.index == Ombrel || entry.index == SuperVrask || entry.index == SuperVraskPlus;
   }
   // New stands on the menu bar beside the games: the games close with the
   // first move, New is there all through.

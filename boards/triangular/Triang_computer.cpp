@@ -38,9 +38,10 @@ void Triang::computerLineMove() {
     return;
   }
 
-  candidates = lineCandidates(celllines, sidecount, lineowner,
-                              [this](int line) { return lineShows(line); });
-  drawComputerLine(candidates.at(static_cast<size_t>(pick(static_cast<int>(candidates.size())) - 1)));
+  candidates =
+      lineCandidates(celllines, sidecount, lineowner, [this](int line) { return lineShows(line); });
+  drawComputerLine(
+      candidates.at(static_cast<size_t>(pick(static_cast<int>(candidates.size())) - 1)));
   Label13->Caption = movesLeft(kLines - linesTakenOrHidden());
   // No cell had two sides, so this line closes nothing: Blue is next.
   Label4(0).Visible = false;

@@ -18,7 +18,8 @@ using namespace triangular;
 // between the lines and the circles with the grid on turns the grid off, so
 // no numbers stand on targets that are gone.
 void Triang::game_Click(int index) {
-  bool crossing = (gameindex == Ombrel && index > Dorvel) || (gameindex > Dorvel && index == Ombrel);
+  bool crossing =
+      (gameindex == Ombrel && index > Dorvel) || (gameindex > Dorvel && index == Ombrel);
   if (crossing && grid_->on()) grid_->toggle();
   for (Element& entry : *game_) entry.Checked = false;
   game(index).Checked = true;
