@@ -10,6 +10,7 @@
 #include "frame/other_games.h"
 #include "frame/round_list.h"
 #include "frame/session_menu.h"
+#include "frame/side_panel.h"
 #include "frame/sudden_death.h"
 #include "frame/turn_flow.h"
 #include "launcher/shared_state.h"
@@ -24,8 +25,6 @@ namespace {
 // A mid grey: the yellow numbers, the Blue, Red and Black marks and the five
 // design colours all stand out on it.
 constexpr int kBoardColour = 0x606060;
-// A pale blue, on which the grey size buttons show.
-constexpr int kPanelColour = 0xF0E4D8;
 constexpr int kGridNumbers = color::Yellow;
 constexpr double kCircleNumberSize = 18;
 constexpr double kLineNumberSize = 7;
@@ -55,12 +54,14 @@ void Form1large::Form_Load() {
   BackColor = kBoardColour;
   addSidePanel();
   addBoard();
-  addStatus();
-  addScores();
-  addSizeLabels();
+  panel_->addColumn();
+  panel_->markSize(kSide);
+  Label33 = &panel_->status();
+  Label36 = &panel_->gameName();
+  Label12 = &panel_->movesLeft();
   addWorkingElements();
   addMenus();
-  roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.place = lay::kRoundList});
+  roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.place = panel_->roundList()});
   flow_ = std::make_unique<TurnFlow>(*this, *roundList_, *keypad_,
                                      TurnFlowNames{.gameMenus = {"opts", "kda", "sks", "ks"}});
   registerHandlers();
@@ -81,7 +82,11 @@ void Form1large::Form_Load() {
 }
 
 void Form1large::addSidePanel() {
-  placed(add("Picture2", Kind::Picture), lay::kSidePanel).BackColor = kPanelColour;
+  panel_ = std::make_unique<SidePanel>(*this, SidePanelConfig{.left = lay::kSidePanelLeft,
+                                                              .sizeButtons = "Label13",
+                                                              .firstSize = kSmallestSize,
+                                                              .lastSize = kSide,
+                                                              .sizeCaption = sizeCaption});
 }
 
 void Form1large::addBoard() {
@@ -99,88 +104,12 @@ void Form1large::addBoard() {
   for (Element& target : *Label2_) placed(target, lay::circleAt(target.index));
 }
 
-void Form1large::addStatus() {
-  Label36 = &captioned(placed(add("Label36", Kind::Label), lay::kGameName), "", 11, true);
-  Label33 = &captioned(placed(add("Label33", Kind::Label), lay::kStatus), "", 11, true);
-  // Its colour is the mover's, Black included, so it stands on white.
-  Label33->BackStyle = 1;
-  Label33->BackColor = color::White;
-  Label33->ForeColor = color::Blue;
-  Label33->Alignment = AlignCenter;
-  Label12 = &captioned(placed(add("Label12", Kind::Label), lay::kMovesLeft), "");
-  Label18 = &captioned(placed(add("Label18", Kind::Label), lay::kLastMove), kLastMove);
-}
-
-// Blue's column on the left, Red's on the right: a heading, the points, and
-// the "Your turn" marker of the side to move (`Label4(1)` Blue's, `Label4(0)`
-// Red's).
-void Form1large::addScores() {
-  ElementArray& headings = addArray("Label3", Kind::Label, 0, 1);
-  Label5_ = &addArray("Label5", Kind::Label, 0, 0);
-  Label6 = &add("Label6", Kind::Label);
-  Label4_ = &addArray("Label4", Kind::Label, 0, 1);
-  struct Side {
-    Element& heading;
-    Element& points;
-    Element& yourTurn;
-    const char* name;
-    int colour;
-    double left;
-  };
-  std::array<Side, 2> sides{
-      {{headings[0], Label5(0), Label4(1), "Blue", color::Blue, lay::kColumnLeft},
-       {headings[1], *Label6, Label4(0), "Red", color::Red, lay::kRedScoreLeft}}};
-  for (Side& side : sides) {
-    placed(captioned(side.heading, side.name, 10, true),
-           {side.left, lay::kScoreHeadingTop, lay::kScoreWidth, lay::kLineHeight});
-    placed(captioned(side.points, "0", 28, true),
-           {side.left, lay::kScoreTop, lay::kScoreWidth, lay::kScoreHeight});
-    placed(captioned(side.yourTurn, "Your turn", 10, true),
-           {side.left, lay::kYourTurnTop, lay::kScoreWidth, lay::kLineHeight});
-    for (Element* e : {&side.heading, &side.points, &side.yourTurn}) {
-      e->ForeColor = side.colour;
-      e->Alignment = AlignCenter;
-    }
-  }
-  // Blue moves first on a board just opened.
-  Label4(0).Visible = false;
-}
-
-void Form1large::addSizeLabels() {
-  Label14 = &captioned(placed(add("Label14", Kind::Label), lay::kSizeHeading), "Board size");
-  Label13_ = &addArray("Label13", Kind::Label, kSmallestSize, kSide);
-  for (Element& label : *Label13_) {
-    double left = lay::kColumnLeft + lay::kSizeStep * (label.index - kSmallestSize);
-    placed(captioned(label, sizeCaption(label.index)),
-           {left, lay::kSizeTop, lay::kSizeWidth, lay::kSizeHeight});
-    label.BackStyle = 1;
-    label.Alignment = AlignCenter;
-  }
-  (*Label13_)[kSide].BackColor = kSizeChosen;
-
-  Command1 = &placed(add("Command1", Kind::Button), lay::kNewGame);
-  Command1->Caption = "New game";
-
-  Label15_ = &addArray("Label15", Kind::Label, 0, 3);
-  for (Element& label : *Label15_) {
-    int row = label.index / 2;
-    int column = label.index % 2;
-    placed(captioned(label, column == 0 ? "GAME" : "OVER", 24, true),
-           {lay::kColumnLeft + column * (lay::kColumnWidth - lay::kGameOverWidth),
-            lay::kGameOverTop + row * lay::kGameOverRow, lay::kGameOverWidth, lay::kGameOverRow});
-    label.ForeColor = color::Red;
-    label.Alignment = AlignCenter;
-    label.Visible = false;
-  }
-  captioned(placed(add("Label16", Kind::Label), lay::kTimeHeading), "Time for a move");
-}
-
 // `Label8` and `List1` are the board's working elements: the player never
 // sees them.
 void Form1large::addWorkingElements() {
-  Label8 = &placed(add("Label8", Kind::Label), lay::kHidden);
+  Label8 = &placed(add("Label8", Kind::Label), panel_->hidden());
   Label8->Visible = false;
-  List1 = &placed(add("List1", Kind::ListBox), lay::kHidden);
+  List1 = &placed(add("List1", Kind::ListBox), panel_->hidden());
   List1->Visible = false;
 }
 
@@ -212,11 +141,11 @@ void Form1large::addOptionsMenu() {
   }
   ip(0).Checked = true;
   addMenu("osep", "ks", "-");
-  sd_ = std::make_unique<SuddenDeath>(*this, SuddenDeathConfig{.bar = lay::kTimeBar});
+  sd_ = std::make_unique<SuddenDeath>(*this, SuddenDeathConfig{.bar = panel_->timeBar()});
   grid_ = std::make_unique<GridSwitch>(*this, "ks", [this](bool on) { shgrid_Click(on); });
   keypad_ = std::make_unique<Keypad>(
       *this, *grid_, [this] { Command6_Click(); },
-      KeypadConfig{.panel = lay::kKeypad, .opener = lay::kKeypadOpener});
+      KeypadConfig{.panel = panel_->keypad(), .opener = panel_->keypadOpener()});
   addOnlineEntries(*this, "ks");
 }
 

@@ -29,6 +29,7 @@ class GridSwitch;
 class Keypad;
 class OtherGames;
 class RoundList;
+class SidePanel;
 class SuddenDeath;
 class TurnFlow;
 
@@ -42,9 +43,6 @@ class Form1large : public Form {
   // --- design and load (Form1large.cpp) -----------------------------------
   void addSidePanel();
   void addBoard();
-  void addStatus();
-  void addScores();
-  void addSizeLabels();
   void addWorkingElements();
   void addMenus();
   void addGamesMenu();
@@ -109,8 +107,6 @@ class Form1large : public Form {
   Element& Label1(int i) { return (*Label1_)[i]; }
   Element& Shape1(int i) { return (*Shape1_)[i]; }
   Element& Label2(int i) { return (*Label2_)[i]; }
-  Element& Label4(int i) { return (*Label4_)[i]; }
-  Element& Label5(int i) { return (*Label5_)[i]; }
   Element& game(int i) { return (*game_)[i]; }
   Element& ip(int i) { return (*ip_)[i]; }
   Element& ver(int i) { return (*ver_)[i]; }
@@ -121,27 +117,21 @@ class Form1large : public Form {
   ElementArray* Label1_ = nullptr;
   ElementArray* Shape1_ = nullptr;
   ElementArray* Label2_ = nullptr;
-  ElementArray* Label4_ = nullptr;
-  ElementArray* Label5_ = nullptr;
-  ElementArray* Label13_ = nullptr;
-  ElementArray* Label15_ = nullptr;
   ElementArray* game_ = nullptr;
   ElementArray* ip_ = nullptr;
   ElementArray* ver_ = nullptr;
   ElementArray* sizsq_ = nullptr;
-  Element* Label6 = nullptr;
   Element* Label8 = nullptr;
   Element* Label12 = nullptr;
-  Element* Label14 = nullptr;  // the heading of the size labels
   Element* Label18 = nullptr;
   Element* Label33 = nullptr;
   Element* Label36 = nullptr;
   Element* List1 = nullptr;
-  Element* Command1 = nullptr;
   Element* sks = nullptr;
   Element* ks = nullptr;
   Element* kda = nullptr;
 
+  std::unique_ptr<SidePanel> panel_;
   std::unique_ptr<SuddenDeath> sd_;
   std::unique_ptr<GridSwitch> grid_;
   std::unique_ptr<Keypad> keypad_;
