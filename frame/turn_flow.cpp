@@ -70,14 +70,14 @@ void TurnFlow::setGameMenusEnabled(bool on) {
   for (Element* menu : gameMenus_) menu->Enabled = on;
 }
 
-void TurnFlow::flash(ElementArray& drawn, const std::vector<int>& lines, double gap) {
+void TurnFlow::flash(ElementArray& drawn, const std::vector<int>& lines, double gap, double hold) {
   std::vector<int> colours;
   for (int line : lines) {
     colours.push_back(drawn[line].BorderColor);
     drawn[line].BorderColor = color::Yellow;
   }
   form_.Refresh();
-  form_.wait(kComputerPause);
+  form_.wait(hold);
   for (size_t i = 0; i < lines.size(); ++i) drawn[lines[i]].BorderColor = colours[i];
   form_.Refresh();
   form_.wait(gap);

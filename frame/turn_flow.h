@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "frame/helpers.h"
 #include "frame/play_descriptor.h"
 
 namespace vrask {
@@ -64,9 +65,11 @@ class TurnFlow {
 
   void setGameMenusEnabled(bool on);
 
-  // Each line of a scored cell shows in yellow for the computer's pause, then
-  // its own colour again, then `gap` seconds before the next.
-  void flash(ElementArray& drawn, const std::vector<int>& lines, double gap);
+  // Each line of a scored cell shows in yellow for `hold` seconds (the
+  // computer's pause unless the board says otherwise), then its own colour
+  // again, then `gap` seconds before the next.
+  void flash(ElementArray& drawn, const std::vector<int>& lines, double gap,
+             double hold = kComputerPause);
 
   // The end of a game: its row, the subtotal and a blank row in the round
   // list, "GAME" "OVER" shown, New the default button with the focus, the
