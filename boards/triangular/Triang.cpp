@@ -11,7 +11,9 @@
 #include "frame/other_games.h"
 #include "frame/round_list.h"
 #include "frame/session_menu.h"
+#include "frame/side_panel.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 #include "launcher/shared_state.h"
 
 namespace vrask {
@@ -24,24 +26,14 @@ namespace {
 // A mid grey: the yellow numbers, the Blue, Red and Black marks and the five
 // design colours all stand out on it.
 constexpr int kBoardColour = 0x606060;
-// A pale blue, on which the grey size buttons show.
-constexpr int kPanelColour = 0xF0E4D8;
 constexpr double kCellNumberSize = 12;
 constexpr double kLineNumberSize = 7;
 
 constexpr std::array<const char*, 4> kPlayerCaptions{"1 player verus the computer", "2 Players",
                                                      "3 Players", "2 Players versus the computer"};
 
-Element& placed(Element& e, const lay::Rect& r) {
-  return vrask::placed(e, r.left, r.top, r.width, r.height);
-}
-
-Element& text(Element& e, const std::string& caption, double fontSize = 10, bool bold = false) {
-  e.Caption = caption;
-  e.FontSize = fontSize;
-  e.FontBold = bold;
-  e.BackStyle = 0;
-  return e;
+std::string sizeNumber(int size) {
+  return std::to_string(size);
 }
 
 }  // namespace
@@ -52,44 +44,47 @@ Triang::~Triang() = default;
 
 // The design first, in paint order, then the load.
 void Triang::Form_Load() {
-  Caption = shared().product_title;
+  Caption = shared().text(shared::kProductTitle);
   Width = lay::kFormWidth;
   Height = lay::kFormHeight;
   openAboveCentre = 300;
   BackColor = kBoardColour;
-  addSidePanel();
+  panel_ = std::make_unique<SidePanel>(*this, SidePanelConfig{.left = lay::kSidePanelLeft,
+                                                              .movesLeft = "Label13",
+                                                              .lastMove = "Label12",
+                                                              .sizeButtons = "Label133",
+                                                              .firstSize = 1,
+                                                              .lastSize = kNormalSize,
+                                                              .sizeCaption = sizeNumber});
   addBoard();
-  addStatus();
-  addScores();
-  addSizeButtons();
+  panel_->addColumn();
+  Label33 = &panel_->status();
+  Label36 = &panel_->gameName();
+  Label13 = &panel_->movesLeft();
   addWorkingElements();
   addMenus();
-  roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.place = lay::kRoundList});
+  roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.place = panel_->roundList()});
+  flow_ = std::make_unique<TurnFlow>(
+      *this, *roundList_, *keypad_,
+      TurnFlowNames{.lastMove = "Label12", .gameMenus = {"opts", "kda", "sks", "ks"}});
   registerHandlers();
   registerVariables();
 
   styleClickTargets();
   clearCircles();
   celllines = start();
+  board_ = cellBoard(celllines);
   applyBubblelandStart();
   game_Click(SuperVraskPlus);
   sd_->choose(1);
-}
-
-void Triang::addSidePanel() {
-  placed(add("Picture2", Kind::Picture), lay::kSidePanel).BackColor = kPanelColour;
 }
 
 void Triang::addBoard() {
   std::array<int, kLines + 1> design = designColours();
   ln1_ = &addArray("ln1", Kind::Line, 1, kLines);
   for (Element& line : *ln1_) {
-    lay::Segment s = lay::lineAt(line.index);
-    line.X1 = s.x1;
-    line.Y1 = s.y1;
-    line.X2 = s.x2;
-    line.Y2 = s.y2;
-    line.BorderColor = design.at(static_cast<size_t>(line.index));
+    placedLine(line, lay::lineAt(line.index)).BorderColor =
+        design.at(static_cast<size_t>(line.index));
   }
   Shape1_ = &addArray("Shape1", Kind::Shape, 1, kCells);
   for (Element& circle : *Shape1_) placed(circle, lay::circleAt(circle.index));
@@ -99,92 +94,19 @@ void Triang::addBoard() {
   for (Element& target : *Label2_) placed(target, lay::numberAt(target.index));
 }
 
-void Triang::addStatus() {
-  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 11, true);
-  Label33 = &text(placed(add("Label33", Kind::Label), lay::kStatus), "", 11, true);
-  // Its colour is the mover's, Black included, so it stands on white.
-  Label33->BackStyle = 1;
-  Label33->BackColor = color::White;
-  Label33->ForeColor = color::Blue;
-  Label33->Alignment = AlignCenter;
-  Label13 = &text(placed(add("Label13", Kind::Label), lay::kMovesLeft), "");
-  Label12 = &text(placed(add("Label12", Kind::Label), lay::kLastMove), kLastMove);
-}
-
-// Blue's column on the left, Red's on the right: a heading, the points, and
-// the "Your turn" marker of the side to move (`Label4(1)` Blue's, `Label4(0)`
-// Red's).
-void Triang::addScores() {
-  ElementArray& headings = addArray("Label3", Kind::Label, 0, 1);
-  Label5_ = &addArray("Label5", Kind::Label, 0, 0);
-  Label6 = &add("Label6", Kind::Label);
-  Label4_ = &addArray("Label4", Kind::Label, 0, 1);
-  struct Side {
-    Element& heading;
-    Element& points;
-    Element& yourTurn;
-    const char* name;
-    int colour;
-    double left;
-  };
-  std::array<Side, 2> sides{
-      {{headings[0], Label5(0), Label4(1), "Blue", color::Blue, lay::kColumnLeft},
-       {headings[1], *Label6, Label4(0), "Red", color::Red, lay::kRedScoreLeft}}};
-  for (Side& side : sides) {
-    placed(text(side.heading, side.name, 10, true),
-           {side.left, lay::kScoreHeadingTop, lay::kScoreWidth, lay::kLineHeight});
-    placed(text(side.points, "0", 28, true),
-           {side.left, lay::kScoreTop, lay::kScoreWidth, lay::kScoreHeight});
-    placed(text(side.yourTurn, "Your turn", 10, true),
-           {side.left, lay::kYourTurnTop, lay::kScoreWidth, lay::kLineHeight});
-    for (Element* e : {&side.heading, &side.points, &side.yourTurn}) {
-      e->ForeColor = side.colour;
-      e->Alignment = AlignCenter;
-    }
-  }
-  // Blue moves first on a board just opened.
-  Label4(0).Visible = false;
-}
-
-void Triang::addSizeButtons() {
-  Label14 = &text(placed(add("Label14", Kind::Label), lay::kSizeHeading), "Board size");
-  Label133_ = &addArray("Label133", Kind::Label, 1, kNormalSize);
-  for (Element& button : *Label133_) {
-    double left = lay::kColumnLeft + lay::kSizeStep * (button.index - 1);
-    placed(text(button, std::to_string(button.index)),
-           {left, lay::kSizeTop, lay::kSizeWidth, lay::kSizeHeight});
-    button.BackStyle = 1;
-    button.Alignment = AlignCenter;
-    button.ToolTipText = kSizeCaptions.at(static_cast<size_t>(button.index));
-  }
-
-  Command1 = &placed(add("Command1", Kind::Button), lay::kNewGame);
-  Command1->Caption = "New game";
-  Element& again = placed(add("Command7", Kind::Button), lay::kNewRound);
-  again.Caption = "New game";
-
-  Label15_ = &addArray("Label15", Kind::Label, 0, 3);
-  for (Element& label : *Label15_) {
-    int row = label.index / 2;
-    int column = label.index % 2;
-    placed(text(label, column == 0 ? "GAME" : "OVER", 24, true),
-           {lay::kColumnLeft + column * (lay::kColumnWidth - lay::kGameOverWidth),
-            lay::kGameOverTop + row * lay::kGameOverRow, lay::kGameOverWidth, lay::kGameOverRow});
-    label.ForeColor = color::Red;
-    label.Alignment = AlignCenter;
-    label.Visible = false;
-  }
-  text(placed(add("Label16", Kind::Label), lay::kTimeHeading), "Time for a move");
-}
-
 // `List1` is the board's working list of last moves: nothing fills it, so
 // the player never sees it.
 void Triang::addWorkingElements() {
-  List1 = &placed(add("List1", Kind::ListBox), lay::kHidden);
+  List1 = &placed(add("List1", Kind::ListBox), panel_->hidden());
   List1->Visible = false;
 }
 
 void Triang::addMenus() {
+  // A second New under the round list, where the rounds are read.
+  Place rounds = panel_->roundList();
+  placed(add("Command7", Kind::Button), rounds.left, lay::kNewRoundTop, lay::kNewRoundWidth,
+         lay::kNewRoundHeight)
+      .Caption = "New game";
   addGamesMenu();
   addOptionsMenu();
   addBoardMenu();
@@ -217,11 +139,11 @@ void Triang::addOptionsMenu() {
   }
   ip(0).Checked = true;
   addMenu("osep", "ks", "-");
-  sd_ = std::make_unique<SuddenDeath>(*this, SuddenDeathConfig{.bar = lay::kTimeBar});
+  sd_ = std::make_unique<SuddenDeath>(*this, SuddenDeathConfig{.bar = panel_->timeBar()});
   grid_ = std::make_unique<GridSwitch>(*this, "ks", [this](bool on) { shgrid_Click(on); });
   keypad_ = std::make_unique<Keypad>(
       *this, *grid_, [this] { Command6_Click(); },
-      KeypadConfig{.panel = lay::kKeypad, .opener = lay::kKeypadOpener});
+      KeypadConfig{.panel = lay::keypadUnder(panel_->keypad()), .opener = panel_->keypadOpener()});
   addOnlineEntries(*this, "ks");
 }
 
@@ -323,7 +245,7 @@ void Triang::clearCircles() {
 }
 
 void Triang::applyBubblelandStart() {
-  if (shared().bubbleland_start != 1) return;
+  if (shared().number(shared::kBubblelandStart) != 1) return;
   ver(1).Checked = false;
   ver(2).Checked = true;
 }

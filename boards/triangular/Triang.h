@@ -18,8 +18,8 @@
 #include <memory>
 #include <vector>
 
-#include "boards/triangular/computer.h"
 #include "boards/triangular/tables.h"
+#include "frame/cell_board.h"
 #include "toolkit/form.h"
 
 namespace vrask {
@@ -28,7 +28,9 @@ class GridSwitch;
 class Keypad;
 class OtherGames;
 class RoundList;
+class SidePanel;
 class SuddenDeath;
+class TurnFlow;
 
 class Triang : public Form {
  public:
@@ -38,11 +40,7 @@ class Triang : public Form {
 
  private:
   // --- design and load (Triang.cpp) --------------------------------------------
-  void addSidePanel();
   void addBoard();
-  void addStatus();
-  void addScores();
-  void addSizeButtons();
   void addWorkingElements();
   void addMenus();
   void addGamesMenu();
@@ -65,7 +63,6 @@ class Triang : public Form {
   void resetBoard();
   void computerOpensCircleGame();
   void showOnBoard(ElementArray& targets, const std::vector<int>& hidden, bool inPlay);
-  void setMenusEnabled(bool on);
   void showSizeControls(bool on);
   int checkedSize() const;
   bool bubbleland() const;
@@ -95,8 +92,7 @@ class Triang : public Form {
   };
   FreeCells countFreeCells();
   void judgeCells();
-  void claimCell(int cell, int colour, Element& points);
-  void zeroPoints();
+  void claimCell(int cell, int colour);
   void playLastCell(int cell);
   void outtahere();
   void recordRound();
@@ -114,8 +110,6 @@ class Triang : public Form {
   Element& Label1(int i) { return (*Label1_)[i]; }
   Element& Shape1(int i) { return (*Shape1_)[i]; }
   Element& Label2(int i) { return (*Label2_)[i]; }
-  Element& Label4(int i) { return (*Label4_)[i]; }
-  Element& Label5(int i) { return (*Label5_)[i]; }
   Element& game(int i) { return (*game_)[i]; }
   Element& ip(int i) { return (*ip_)[i]; }
   Element& ver(int i) { return (*ver_)[i]; }
@@ -127,31 +121,25 @@ class Triang : public Form {
   ElementArray* Label1_ = nullptr;
   ElementArray* Shape1_ = nullptr;
   ElementArray* Label2_ = nullptr;
-  ElementArray* Label4_ = nullptr;
-  ElementArray* Label5_ = nullptr;
-  ElementArray* Label15_ = nullptr;
-  ElementArray* Label133_ = nullptr;
   ElementArray* game_ = nullptr;
   ElementArray* ip_ = nullptr;
   ElementArray* ver_ = nullptr;
   ElementArray* szmen_ = nullptr;
-  Element* Label6 = nullptr;
-  Element* Label12 = nullptr;
   Element* Label13 = nullptr;
-  Element* Label14 = nullptr;  // the heading of the size buttons
   Element* Label33 = nullptr;
   Element* Label36 = nullptr;
   Element* List1 = nullptr;
-  Element* Command1 = nullptr;
   Element* sks = nullptr;
   Element* ks = nullptr;
   Element* kda = nullptr;
 
+  std::unique_ptr<SidePanel> panel_;
   std::unique_ptr<SuddenDeath> sd_;
   std::unique_ptr<GridSwitch> grid_;
   std::unique_ptr<Keypad> keypad_;
   std::unique_ptr<OtherGames> otherGames_;
   std::unique_ptr<RoundList> roundList_;
+  std::unique_ptr<TurnFlow> flow_;
 
   // --- the game -----------------------------------------------------------------------
   int gameindex = triangular::SuperVraskPlus;
@@ -169,12 +157,13 @@ class Triang : public Form {
   int lastcell = 0;
   int freshboard = 0;
   triangular::CellLines celllines{};
-  triangular::CellCounts celltaken{};
-  triangular::CellCounts cellscored{};
+  CellBoard board_;
+  triangular::CellFlags celltaken{};
+  triangular::CellFlags cellscored{};
   triangular::LineValues lineowner{};
   triangular::SideMarks sidemark{};
-  triangular::CellCounts sidecount{};
-  triangular::CellCounts linecount{};
+  Counts sidecount = Counts(triangular::kCells + 1, 0);
+  Counts linecount = Counts(triangular::kCells + 1, 0);
   std::vector<int> candidates;
 };
 

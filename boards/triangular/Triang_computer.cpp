@@ -1,13 +1,14 @@
 // The computer plays Red when "1 player verus the computer" is ticked. It has
 // two brains that share nothing: one draws lines in Ombrel, the other plays
-// circles (`redchack`). computer.h holds their decisions; these are the
-// moves they make, with their pauses.
+// circles (`redchack`). Their choices are the rules every board shares
+// (frame/cell_board.h); these are the moves they make, with their pauses.
 #include <string>
 
 #include "boards/triangular/Triang.h"
 #include "boards/triangular/captions.h"
 #include "boards/triangular/look.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -15,7 +16,6 @@ using namespace triangular;
 
 namespace {
 
-constexpr double kLinePause = 0.5;
 constexpr double kCirclePause = 2;
 constexpr int kComputerMark = 1;
 
@@ -27,7 +27,7 @@ constexpr int kComputerMark = 1;
 void Triang::computerLineMove() {
   inputlock = 1;
   sidecount = countMarkedSides(sidemark);
-  candidates = cellsToClose(sidecount);
+  candidates = board_.cellsToComplete(sidecount);
   whosnext = 0;
   if (!candidates.empty()) {
     int cell = candidates.front();
@@ -38,16 +38,13 @@ void Triang::computerLineMove() {
     return;
   }
 
-  candidates =
-      lineCandidates(celllines, sidecount, lineowner, [this](int line) { return lineShows(line); });
-  drawComputerLine(
-      candidates.at(static_cast<size_t>(pick(static_cast<int>(candidates.size())) - 1)));
+  candidates = board_.safeLines(
+      sidecount, [this](int line) { return lineowner.at(line) == 0 && lineShows(line); });
+  drawComputerLine(flow_->pickFrom(candidates));
   Label13->Caption = movesLeft(kLines - linesTakenOrHidden());
   // No cell had two sides, so this line closes nothing: Blue is next.
-  Label4(0).Visible = false;
-  Label4(1).Visible = true;
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = noScore("Blue");
+  flow_->showTurn(Side::Blue);
+  flow_->say(noScore("Blue"), color::Blue);
   inputlock = 0;
   sd_->restart();
 }
@@ -60,9 +57,8 @@ void Triang::drawComputerLine(int line) {
   ln1(line).BorderWidth = kDrawn;
   if (bubbleland()) bbland(line);
   ln1(line).BorderColor = color::Yellow;
-  Refresh();
-  waitWithEvents(kLinePause);
-  Label12->Caption = kLastMove + std::to_string(line);
+  flow_->computerPause();
+  flow_->showLastMove(line);
   ln1(line).BorderColor = color::Red;
   lineowner.at(line) = kComputerMark;
   markSides(line, mark);
@@ -82,14 +78,14 @@ void Triang::bbland(int line) {
 // count after its move finds the last free cell, which the program plays.
 void Triang::redchack() {
   auto shows = [this](int cell) { return cellShows(cell); };
-  linecount = countDrawnLines(celllines, [this](int line) { return drawn(line); });
-  int cell = redchackTarget(linecount, celltaken, shows);
+  linecount = board_.countSides([this](int line) { return drawn(line); });
+  int cell = board_.vraskTarget(linecount, celltaken, shows);
   if (cell == 0) {
     // Every free cell is bare. No count follows: the next move's judging
     // makes it.
-    if (Label33->ForeColor != color::Red) return;
-    candidates = freeCells(celltaken, shows);
-    cell = candidates.at(static_cast<size_t>(pick(static_cast<int>(candidates.size())) - 1));
+    if (flow_->moverColour() != color::Red) return;
+    candidates = board_.openCells(celltaken, shows);
+    cell = flow_->pickFrom(candidates);
     Refresh();
     wait(kCirclePause);
     compmove(cell);
@@ -98,13 +94,13 @@ void Triang::redchack() {
   }
   // Once the program has played the last cell, nothing follows.
   if (endgameflag == 1) return;
-  if (Label33->ForeColor == color::Red) {
+  if (flow_->moverColour() == color::Red) {
     Refresh();
     wait(kCirclePause);
-    Label12->Caption = kLastMove + std::to_string(cell);
+    flow_->showLastMove(cell);
     compmove(cell);
     paintRedExtension(cell);
-    zeroPoints();
+    flow_->zeroScores();
     FreeCells before = countFreeCells();
     Label13->Caption = movesLeft(before.count);
     judgeCells();
@@ -129,7 +125,7 @@ void Triang::redchack() {
 // player's next move paints in Blue, while its text still says Red's turn.
 void Triang::paintRedExtension(int cell) {
   Label33->ForeColor = color::Red;
-  paintExtension(cell, Label33->ForeColor);
+  paintExtension(cell, color::Red);
   Label33->ForeColor = color::Blue;
 }
 
@@ -140,9 +136,9 @@ void Triang::compmove(int cell) {
   if (finished == 1 || freshboard == 1) return;
   celltaken.at(cell) = 1;
   Shape1(cell).BorderColor = color::Green;
-  paintCell(cell, Label33->ForeColor);
-  if (Label33->Caption != kVraskMove) return;
-  paintExtension(cell, Label33->ForeColor);
+  paintCell(cell, flow_->moverColour());
+  if (flow_->status() != kVraskMove) return;
+  paintExtension(cell, flow_->moverColour());
   Label13->Caption.clear();
   outtahere();
 }

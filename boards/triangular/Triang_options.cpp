@@ -4,10 +4,10 @@
 #include "boards/triangular/captions.h"
 #include "boards/triangular/look.h"
 #include "frame/grid_switch.h"
-#include "frame/helpers.h"
 #include "frame/keypad.h"
-#include "frame/other_games.h"
+#include "frame/side_panel.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 #include "launcher/shared_state.h"
 
 namespace vrask {
@@ -56,9 +56,7 @@ void Triang::szmen_Click(int size) {
   Label13->Caption = movesLeft(movestotal);
 
   for (Element& entry : *szmen_) entry.Checked = entry.index == size;
-  for (Element& button : *Label133_) {
-    button.BackColor = button.index == size ? kSizeChosen : color::ButtonFace;
-  }
+  panel_->markSize(size);
   ver(1).Enabled = size == kNormalSize;
   ver(2).Enabled = size == kNormalSize;
 }
@@ -76,7 +74,7 @@ void Triang::ver_Click() {
   bool toBubbleland = ver(1).Checked;
   ver(1).Checked = !toBubbleland;
   ver(2).Checked = toBubbleland;
-  shared().bubbleland_start = 0;
+  shared().set(shared::kBubblelandStart, num(0));
   if (toBubbleland && game(SuperVrask).Checked) {
     game(SuperVrask).Checked = false;
     game(Ombrel).Checked = true;
@@ -99,15 +97,9 @@ void Triang::gmc_Click() {
   gameover = 0;
   finished = 0;
   endgameflag = 0;
-  if (keypad_->on()) {
-    keypad_->text().Text.clear();
-    keypad_->panel().Visible = true;
-    keypad_->focusText();
-  }
-  for (Element& label : *Label15_) label.Visible = false;
-  setDefaultButton(*this, keypad_->enterButton());
+  flow_->startNewGame();
   showSizeControls(true);
-  setMenusEnabled(true);
+  flow_->setGameMenusEnabled(true);
   sd_->fullBar();
   sd_->stop();
 
@@ -139,15 +131,14 @@ void Triang::resetBoard() {
   clearCircles();
   for (Element& target : *Label2_) target.Visible = true;
   szmen_Click(checkedSize());
-  zeroPoints();
+  flow_->zeroScores();
   List1->Clear();
   celltaken = {};
   cellscored = {};
   lineowner = {};
   sidemark = {};
   whosnext = openerflag;
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = gameindex > Dorvel ? kClickACircle : kClickALine;
+  flow_->say(gameindex > Dorvel ? kClickACircle : kClickALine, color::Blue);
   std::array<int, kLines + 1> design = designColours();
   for (Element& line : *ln1_) {
     line.BorderWidth = 1;
@@ -160,26 +151,19 @@ void Triang::resetBoard() {
 // The board has just been dealt, so the count that follows finds no end.
 void Triang::computerOpensCircleGame() {
   whosnext = 1;
-  candidates = freeCells(celltaken, [this](int cell) { return cellShows(cell); });
-  int cell = candidates.at(static_cast<size_t>(pick(movestotal) - 1));
+  candidates = board_.openCells(celltaken, [this](int cell) { return cellShows(cell); });
+  int cell = flow_->pickFrom(candidates);
   compmove(cell);
-  Label33->ForeColor = color::Red;
-  paintExtension(cell, Label33->ForeColor);
-  zeroPoints();
+  paintRedExtension(cell);
+  flow_->zeroScores();
   Label13->Caption = movesLeft(countFreeCells().count);
   judgeCells();
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = kBluesTurn;
-}
-
-void Triang::setMenusEnabled(bool on) {
-  for (Element* menu : {&otherGames_->menu(), kda, sks, ks}) menu->Enabled = on;
+  flow_->say(kBluesTurn, color::Blue);
 }
 
 // The size can be changed only before the first move of a game.
 void Triang::showSizeControls(bool on) {
-  for (Element& button : *Label133_) button.Visible = on;
-  Label14->Visible = on;
+  panel_->showSizeButtons(on);
   for (Element& entry : *szmen_) entry.Enabled = on;
 }
 

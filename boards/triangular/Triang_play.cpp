@@ -1,13 +1,12 @@
 // The moves of a person: a line clicked, a circle clicked, a number typed.
-#include <cmath>
+#include <optional>
 #include <string>
 
 #include "boards/triangular/Triang.h"
 #include "boards/triangular/captions.h"
 #include "boards/triangular/look.h"
-#include "frame/helpers.h"
-#include "frame/keypad.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -29,14 +28,13 @@ void Triang::Label1_Click(int line) {
     MsgBox(kLineTaken);
     return;
   }
-  Label12->Caption = kLastMove + std::to_string(line);
+  flow_->showLastMove(line);
   ln1(line).BorderWidth = kDrawn;
 
   bool redMoves = whosnext == 1;
   whosnext = redMoves ? 0 : 1;
   int colour = redMoves ? color::Red : color::Blue;
-  Label4(0).Visible = !redMoves;
-  Label4(1).Visible = redMoves;
+  flow_->showTurn(redMoves ? Side::Blue : Side::Red);
   mark = redMoves ? kRedMark : kBlueMark;
 
   ln1(line).BorderColor = colour;
@@ -72,7 +70,7 @@ void Triang::Label2_Click(int cell) {
     return;
   }
   celltaken.at(cell) = 1;
-  Label12->Caption = kLastMove + std::to_string(cell);
+  flow_->showLastMove(cell);
   Shape1(cell).BorderColor = color::Green;
   paintCell(cell, Label33->ForeColor);
   paintExtension(cell, Label33->ForeColor);
@@ -101,20 +99,16 @@ void Triang::paintLine(int line, int colour) {
 }
 
 // The keypad's "enter": the number typed plays like a click on that line or
-// circle. A number out of range, not whole, or of a target that is not there
-// is dropped without a word.
+// circle; one that names nothing on the board is dropped without a word.
 void Triang::Command6_Click() {
   if (inputlock == 1) return;
-  Element& box = keypad_->text();
-  double n = Val(box.Text);
-  box.Text.clear();
-  if (std::floor(n) != n) return;
-  if (gameindex == Ombrel) {
-    if (n >= 1 && n <= kLines && Label1(static_cast<int>(n)).Visible) {
-      Label1_Click(static_cast<int>(n));
-    }
-  } else if (n >= 1 && n <= kCells && Label2(static_cast<int>(n)).Visible) {
-    Label2_Click(static_cast<int>(n));
+  bool onLines = gameindex == Ombrel;
+  std::optional<int> target = flow_->typedTarget(onLines ? *Label1_ : *Label2_);
+  if (!target) return;
+  if (onLines) {
+    Label1_Click(*target);
+  } else {
+    Label2_Click(*target);
   }
 }
 

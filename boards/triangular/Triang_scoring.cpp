@@ -1,15 +1,12 @@
 // Judging the board after every move, and the end of a game. The points are
 // the captions of `Label5(0)` (Blue) and `Label6` (Red): Ombrel adds to them,
 // the circle games rebuild them from the board each time.
-#include <array>
 
 #include "boards/triangular/Triang.h"
 #include "boards/triangular/captions.h"
 #include "boards/triangular/look.h"
-#include "frame/helpers.h"
-#include "frame/keypad.h"
-#include "frame/round_list.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -17,16 +14,8 @@ using namespace triangular;
 
 namespace {
 
-constexpr double kFlash = 1;
+constexpr double kFlashHold = 1;
 constexpr double kFlashGap = 0.25;
-
-void addPoints(Element& points, int n) {
-  points.Caption = std::to_string(static_cast<int>(Val(points.Caption)) + n);
-}
-
-int points(const Element& label) {
-  return static_cast<int>(Val(label.Caption));
-}
 
 }  // namespace
 
@@ -34,7 +23,7 @@ int points(const Element& label) {
 
 void Triang::checkwins() {
   if (finished == 1) return;
-  setMenusEnabled(false);
+  flow_->setGameMenusEnabled(false);
   sd_->stop();
   judgeLines();
 }
@@ -60,7 +49,7 @@ void Triang::judgeLines() {
 // in its own orange, and the circle is Red then.
 std::vector<int> Triang::newlyClosed() {
   sidecount = countMarkedSides(sidemark);
-  int fill = Label33->ForeColor == kRedStatus ? color::Red : Label33->ForeColor;
+  int fill = flow_->moverColour() == kRedStatus ? color::Red : flow_->moverColour();
   std::vector<int> newly;
   for (int cell = 1; cell <= kCells; ++cell) {
     if (sidecount.at(cell) != 3 || cellscored.at(cell) != 0) continue;
@@ -77,37 +66,21 @@ void Triang::settleLineTurn(int newly) {
   if (newly != 0) {
     bool blueMoved = whosnext == 1;
     whosnext = blueMoved ? 0 : 1;
-    addPoints(blueMoved ? Label5(0) : *Label6, newly);
-    Label4(1).Visible = blueMoved;
-    Label4(0).Visible = !blueMoved;
+    flow_->addPoints(blueMoved ? Side::Blue : Side::Red, newly);
+    flow_->showTurn(blueMoved ? Side::Blue : Side::Red);
   }
   const char* next = whosnext == 1 ? "Red" : "Blue";
-  if (newly == 1) {
-    Label33->Caption = scoredAgain(next);
-  } else if (newly == 2) {
-    Label33->Caption = kDoubleScore;
+  if (newly == 0) {
+    flow_->say(noScore(next), whosnext == 1 ? kRedStatus : color::Blue);
   } else {
-    Label33->Caption = noScore(next);
-    Label33->ForeColor = whosnext == 1 ? kRedStatus : color::Blue;
+    flow_->say(newly == 1 ? scoredAgain(next) : kDoubleScore, flow_->moverColour());
   }
 }
 
-// Each new cell shows its three lines in yellow for a moment.
+// Each new cell shows its three lines in yellow for a second.
 void Triang::flash(const std::vector<int>& cells) {
   for (int cell : cells) {
-    std::array<int, 3> colours{};
-    for (size_t slot = 0; slot < 3; ++slot) {
-      Element& line = ln1(celllines.at(cell).at(slot));
-      colours.at(slot) = line.BorderColor;
-      line.BorderColor = color::Yellow;
-    }
-    Refresh();
-    wait(kFlash);
-    for (size_t slot = 0; slot < 3; ++slot) {
-      ln1(celllines.at(cell).at(slot)).BorderColor = colours.at(slot);
-    }
-    Refresh();
-    wait(kFlashGap);
+    flow_->flash(*ln1_, board_.sides(cell), kFlashGap, kFlashHold);
     cellscored.at(cell) = 1;
   }
 }
@@ -127,11 +100,11 @@ int Triang::linesTakenOrHidden() const {
 // from the colours of its lines, and the last free cell is played by the
 // program itself in Black.
 void Triang::chackmoves() {
-  if (finished == 1 || Label33->Caption == kVraskMove) return;
+  if (finished == 1 || flow_->status() == kVraskMove) return;
   passCircleTurn();
-  setMenusEnabled(false);
+  flow_->setGameMenusEnabled(false);
   sd_->stop();
-  zeroPoints();
+  flow_->zeroScores();
 
   FreeCells before = countFreeCells();
   Label13->Caption = movesLeft(before.count);
@@ -160,11 +133,9 @@ void Triang::chackmoves() {
 }
 
 void Triang::passCircleTurn() {
-  bool blueNext = Label33->ForeColor != color::Blue;
-  Label33->ForeColor = blueNext ? color::Blue : color::Red;
-  Label33->Caption = blueNext ? kBluesTurn : kRedsTurn;
-  Label4(1).Visible = blueNext;
-  Label4(0).Visible = !blueNext;
+  bool blueNext = flow_->moverColour() != color::Blue;
+  flow_->say(blueNext ? kBluesTurn : kRedsTurn, blueNext ? color::Blue : color::Red);
+  flow_->showTurn(blueNext ? Side::Blue : Side::Red);
   Refresh();
 }
 
@@ -196,28 +167,22 @@ void Triang::judgeCells() {
       Shape1(cell).BorderColor = kMagenta;
       Label2(cell).Visible = false;
     }
-    if (blue == 3) claimCell(cell, color::Blue, Label5(0));
-    if (red == 3) claimCell(cell, color::Red, *Label6);
+    if (blue == 3) claimCell(cell, color::Blue);
+    if (red == 3) claimCell(cell, color::Red);
   }
 }
 
-void Triang::claimCell(int cell, int colour, Element& points) {
+void Triang::claimCell(int cell, int colour) {
   if (!cellShows(cell)) return;
-  addPoints(points, 1);
+  flow_->addPoints(colour == color::Blue ? Side::Blue : Side::Red, 1);
   Shape1(cell).BackColor = colour;
   Label2(cell).Visible = false;
-}
-
-void Triang::zeroPoints() {
-  Label5(0).Caption = "0";
-  Label6->Caption = "0";
 }
 
 // Nobody may play the last free cell: the program plays it in Black,
 // nobody's colour, with its extension, and that settles the game.
 void Triang::playLastCell(int cell) {
-  Label33->Caption = kVraskMove;
-  Label33->ForeColor = color::Black;
+  flow_->say(kVraskMove, color::Black);
   compmove(cell);
   lastcell = cell;
 }
@@ -226,7 +191,7 @@ void Triang::playLastCell(int cell) {
 void Triang::outtahere() {
   if (finished == 1) return;
   finished = 1;
-  zeroPoints();
+  flow_->zeroScores();
   judgeCells();
   recordRound();
 }
@@ -235,11 +200,7 @@ void Triang::outtahere() {
 
 // Three rows in the round list and "GAME OVER": the whole announcement.
 void Triang::recordRound() {
-  roundList_->recordGame(points(Label5(0)), points(*Label6));
-  for (Element& label : *Label15_) label.Visible = true;
-  keypad_->panel().Visible = false;
-  setDefaultButton(*this, *Command1);
-  SetFocus(*Command1);
+  flow_->endGame();
   gameover = 1;
 }
 

@@ -7,12 +7,6 @@
 
 namespace vrask::triangular::layout {
 
-struct Rect {
-  double left = 0, top = 0, width = 0, height = 0;
-};
-struct Segment {
-  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
-};
 struct Point {
   double x = 0, y = 0;
 };
@@ -34,45 +28,17 @@ Rect stripAt(int line);
 Rect circleAt(int cell);
 Rect numberAt(int cell);
 
-// The form: the hexagon on the left, two side columns on the right.
+// The form: the hexagon on the left, the side panel on the right.
 inline constexpr double kFormWidth = 17700;
 inline constexpr double kFormHeight = 10080;
+inline constexpr double kSidePanelLeft = 10380;
 
-inline constexpr Rect kSidePanel{10380, 0, kFormWidth - 10380, kFormHeight};
-
-// First column: the game, the turn, the scores, the sizes, New.
-inline constexpr double kColumnLeft = 10560;
-inline constexpr double kColumnWidth = 3450;
-inline constexpr Rect kGameName{kColumnLeft, 240, kColumnWidth, 330};
-inline constexpr Rect kStatus{kColumnLeft, 630, kColumnWidth, 600};
-inline constexpr double kScoreWidth = 1650;
-inline constexpr double kRedScoreLeft = kColumnLeft + 1800;
-inline constexpr double kScoreHeadingTop = 1380;
-inline constexpr double kScoreTop = 1650;
-inline constexpr double kScoreHeight = 720;
-inline constexpr double kYourTurnTop = 2400;
-inline constexpr double kLineHeight = 285;
-inline constexpr Rect kMovesLeft{kColumnLeft, 2850, kColumnWidth, kLineHeight};
-inline constexpr Rect kLastMove{kColumnLeft, 3150, kColumnWidth, kLineHeight};
-inline constexpr Rect kSizeHeading{kColumnLeft, 3570, kColumnWidth, kLineHeight};
-inline constexpr double kSizeTop = 3870;
-inline constexpr double kSizeWidth = 600;
-inline constexpr double kSizeHeight = 390;
-inline constexpr double kSizeStep = 690;
-inline constexpr Rect kNewGame{kColumnLeft, 4500, 1650, 450};
-inline constexpr Place kKeypadOpener{kColumnLeft + 1800, 4530};
-// "GAME" "OVER" twice, in two rows.
-inline constexpr double kGameOverTop = 5250;
-inline constexpr double kGameOverRow = 600;
-inline constexpr double kGameOverWidth = 1650;
-inline constexpr Rect kTimeHeading{kColumnLeft, 6600, kColumnWidth, kLineHeight};
-inline constexpr Place kTimeBar{kColumnLeft, 6930};
-// Working elements that show nothing.
-inline constexpr Rect kHidden{kColumnLeft, 9000, 1200, 255};
-
-// Second column: the round list, a second New under it, the keypad.
-inline constexpr Place kRoundList{14130, 240};
-inline constexpr Rect kNewRound{14130, 3240, 1650, 390};
-inline constexpr Place kKeypad{14850, 3780};
+// A second New under the round list, and the keypad moved down to make room.
+inline constexpr double kNewRoundTop = 3240;
+inline constexpr double kNewRoundWidth = 1650;
+inline constexpr double kNewRoundHeight = 390;
+inline Place keypadUnder(Place keypad) {
+  return {keypad.left, keypad.top + 300};
+}
 
 }  // namespace vrask::triangular::layout

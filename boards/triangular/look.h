@@ -12,7 +12,5 @@ inline constexpr int kDrawn = 8;
 inline constexpr int kRedStatus = 16576;
 // The rim of a circle whose cell has all three lines drawn.
 inline constexpr int kMagenta = 12583104;
-// The size button of the board's size.
-inline constexpr int kSizeChosen = 16777088;
 
 }  // namespace vrask::triangular

@@ -182,13 +182,22 @@ CellLines start() {
   return celllines;
 }
 
-std::vector<int> cellsOf(const CellLines& celllines, int line) {
-  std::vector<int> cells;
+CellBoard cellBoard(const CellLines& celllines) {
+  std::vector<std::vector<int>> sides(kCells + 1);
   for (int cell = 1; cell <= kCells; ++cell) {
-    const auto& sides = celllines.at(cell);
-    if (std::find(sides.begin(), sides.end(), line) != sides.end()) cells.push_back(cell);
+    sides.at(cell).assign(celllines.at(cell).begin(), celllines.at(cell).end());
   }
-  return cells;
+  return {std::move(sides), kLines};
+}
+
+Counts countMarkedSides(const SideMarks& sidemark) {
+  Counts counts(kCells + 1, 0);
+  for (int cell = 1; cell <= kCells; ++cell) {
+    const auto& marks = sidemark.at(cell);
+    counts.at(cell) =
+        static_cast<int>(std::count_if(marks.begin(), marks.end(), [](int m) { return m != 0; }));
+  }
+  return counts;
 }
 
 bool onRim(int line) {

@@ -8,6 +8,8 @@
 #include <array>
 #include <vector>
 
+#include "frame/cell_board.h"
+
 namespace vrask::triangular {
 
 inline constexpr int kLines = 90;
@@ -49,9 +51,17 @@ bool pointsUp(int cell);
 // is unused so that the board's own numbers index it.
 using CellLines = std::array<std::array<int, 3>, kCells + 1>;
 CellLines start();
+// The same table as the rules shared with other boards read it.
+CellBoard cellBoard(const CellLines& celllines);
 
-// The cells a line bounds: two inside the hexagon, one on its rim.
-std::vector<int> cellsOf(const CellLines& celllines, int line);
+// Game state by cell (1..54) or by line (1..90); index 0 unused.
+using CellFlags = std::array<int, kCells + 1>;
+using LineValues = std::array<int, kLines + 1>;
+// sidemark: the mark on each slot of each cell.
+using SideMarks = std::array<std::array<int, 3>, kCells + 1>;
+// How many sides of each cell carry a mark.
+Counts countMarkedSides(const SideMarks& sidemark);
+
 bool onRim(int line);
 // The rim line across the hexagon that stands for the same line of the joined
 // surface in Bubbleland, or 0 for a line inside.

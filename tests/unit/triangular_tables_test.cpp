@@ -51,10 +51,10 @@ TEST(TriangularTables, LinesStandBetweenThePointsOfTheHexagon) {
   const std::pair<int, double> kRowStarts[] = {{1, 2640},  {4, 1920},  {8, 1200}, {13, 480},
                                                {19, 1320}, {24, 2160}, {28, 3000}};
   for (auto [line, left] : kRowStarts) {
-    layout::Segment s = layout::lineAt(line);
+    Segment s = layout::lineAt(line);
     EXPECT_EQ(std::min(s.x1, s.x2), left) << line;
   }
-  layout::Segment s22 = layout::lineAt(22);
+  Segment s22 = layout::lineAt(22);
   EXPECT_EQ(s22.x1, 6000);
   EXPECT_EQ(s22.x2, 7560);
 }
