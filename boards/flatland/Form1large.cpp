@@ -5,6 +5,7 @@
 #include "boards/flatland/captions.h"
 #include "boards/flatland/layout.h"
 #include "boards/flatland/look.h"
+#include "frame/board_design.h"
 #include "frame/grid_switch.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
@@ -22,17 +23,10 @@ namespace lay = flatland::layout;
 
 namespace {
 
-// A mid grey: the yellow numbers, the Blue, Red and Black marks and the five
-// design colours all stand out on it.
-constexpr int kBoardColour = 0x606060;
-constexpr int kGridNumbers = color::Yellow;
 constexpr double kCircleNumberSize = 18;
-constexpr double kLineNumberSize = 7;
 
 constexpr std::array<const char*, 6> kGameCaptions{
     "Ombrel", "Dorvel (2 Player only)", "Vrask", "Super Vrask", "Super Vrask Plus", "Ribbon Vrask"};
-constexpr std::array<const char*, 4> kPlayerCaptions{"1 player verus the computer", "2 Players",
-                                                     "3 Players", "2 Players versus the computer"};
 
 std::string sizeCaption(int n) {
   return std::to_string(n) + " x " + std::to_string(n);
@@ -47,11 +41,7 @@ Form1large::~Form1large() = default;
 // The design first, in paint order, then the load in its own order. Where
 // the window stands on the screen is the window's business.
 void Form1large::Form_Load() {
-  Caption = shared().text(shared::kProductTitle);
-  Width = lay::kFormWidth;
-  Height = lay::kFormHeight;
-  openAboveCentre = 300;
-  BackColor = kBoardColour;
+  designBoardWindow(*this, lay::kFormWidth, lay::kFormHeight);
   addSidePanel();
   addBoard();
   panel_->addColumn();
@@ -61,16 +51,13 @@ void Form1large::Form_Load() {
   Label12 = &panel_->movesLeft();
   addWorkingElements();
   addMenus();
-  roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.place = panel_->roundList()});
-  flow_ = std::make_unique<TurnFlow>(*this, *roundList_, *keypad_,
-                                     TurnFlowNames{.gameMenus = {"opts", "kda", "sks", "ks"}});
+  addRoundsAndFlow(*this, "Label18");
   registerHandlers();
   registerVariables();
 
   boardsize = kSide;
   gameover = 0;
   starterflag = 1;
-  styleClickTargets();
   saveDesignColours();
   clearCircles();
   for (Element& target : *Label2_) target.Visible = false;
@@ -91,17 +78,19 @@ void Form1large::addSidePanel() {
 
 void Form1large::addBoard() {
   std::array<int, kLines + 1> design = designColours();
-  ln1_ = &addArray("ln1", Kind::Line, 1, kLines);
-  for (Element& line : *ln1_) {
-    placedLine(line, lay::lineAt(line.index)).BorderColor =
-        design.at(static_cast<size_t>(line.index));
-  }
-  Shape1_ = &addArray("Shape1", Kind::Shape, 1, kSquares);
-  for (Element& circle : *Shape1_) placed(circle, lay::circleAt(circle.index)).FillStyle = 0;
-  Label1_ = &addArray("Label1", Kind::Label, 1, kLines);
-  for (Element& strip : *Label1_) placed(strip, lay::stripAt(strip.index));
-  Label2_ = &addArray("Label2", Kind::Label, 1, kSquares);
-  for (Element& target : *Label2_) placed(target, lay::circleAt(target.index));
+  BoardElements board = addBoardElements(
+      *this, kLines, kSquares,
+      {.line = lay::lineAt,
+       .colour = [design](int line) { return design.at(static_cast<size_t>(line)); },
+       .strip = lay::stripAt,
+       .circle = lay::circleAt,
+       .target = lay::circleAt,
+       .cellNumberSize = kCircleNumberSize});
+  ln1_ = board.lines;
+  Shape1_ = board.circles;
+  Label1_ = board.strips;
+  Label2_ = board.targets;
+  for (Element& circle : *Shape1_) circle.FillStyle = 0;
 }
 
 // `Label8` and `List1` are the board's working elements: the player never
@@ -115,10 +104,11 @@ void Form1large::addWorkingElements() {
 
 void Form1large::addMenus() {
   addGamesMenu();
-  addOptionsMenu();
+  addOptionsMenu(
+      *this, [this](bool on) { shgrid_Click(on); }, [this] { Command6_Click(); }, panel_->keypad());
   addBoardMenu();
   otherGames_ = std::make_unique<OtherGames>(*this);
-  addHelpAndExit();
+  addHelpAboutExit(*this);
 }
 
 void Form1large::addGamesMenu() {
@@ -132,41 +122,12 @@ void Form1large::addGamesMenu() {
   addMenu("gmc", "", "New").Shortcut = "Ctrl+N";
 }
 
-void Form1large::addOptionsMenu() {
-  ks = &addMenu("ks", "", "Options");
-  ip_ = &addMenuArray("ip", "ks", 0, 3);
-  for (Element& entry : *ip_) {
-    entry.Caption = kPlayerCaptions.at(static_cast<size_t>(entry.index));
-    entry.Visible = entry.index <= 1;
-  }
-  ip(0).Checked = true;
-  addMenu("osep", "ks", "-");
-  sd_ = std::make_unique<SuddenDeath>(*this, SuddenDeathConfig{.bar = panel_->timeBar()});
-  grid_ = std::make_unique<GridSwitch>(*this, "ks", [this](bool on) { shgrid_Click(on); });
-  keypad_ = std::make_unique<Keypad>(
-      *this, *grid_, [this] { Command6_Click(); },
-      KeypadConfig{.panel = panel_->keypad(), .opener = panel_->keypadOpener()});
-  addOnlineEntries(*this, "ks");
-}
-
 void Form1large::addBoardMenu() {
   kda = &addMenu("kda", "", "Board");
-  ver_ = &addMenuArray("ver", "kda", 1, 2);
-  ver(1).Caption = "Flatland";
-  ver(2).Caption = "Bubbleland";
-  ver(1).Checked = true;
-  addMenu("ksep", "kda", "-");
+  ver_ = &addWorldEntries(*this, "kda");
   sizsq_ = &addMenuArray("sizsq", "kda", kSmallestSize, kSide);
   for (Element& entry : *sizsq_) entry.Caption = sizeCaption(entry.index);
   (*sizsq_)[kSide].Checked = true;
-}
-
-// Help and About stay open during a game, and so does Exit.
-void Form1large::addHelpAndExit() {
-  addMenu("hlp", "", "Help");
-  addHelpEntry(*this, "rh", "hlp");
-  addAboutEntry(*this, "abt", "hlp");
-  addExitEntry(*this, "");
 }
 
 void Form1large::registerHandlers() {
@@ -207,22 +168,6 @@ void Form1large::registerVariables() {
   varArray("candlist", 1, kLines, [this](int i) {
     return num(i <= static_cast<int>(candlist.size()) ? candlist[static_cast<size_t>(i - 1)] : 0);
   });
-}
-
-// The hit areas show nothing but the numbers of the grid.
-void Form1large::styleClickTargets() {
-  for (Element& target : *Label2_) {
-    target.FontSize = kCircleNumberSize;
-    target.ForeColor = kGridNumbers;
-    target.Alignment = AlignCenter;
-    target.BackStyle = 0;
-  }
-  for (Element& strip : *Label1_) {
-    strip.FontSize = kLineNumberSize;
-    strip.ForeColor = kGridNumbers;
-    strip.Alignment = AlignCenter;
-    strip.BackStyle = 0;
-  }
 }
 
 void Form1large::saveDesignColours() {

@@ -20,20 +20,12 @@
 
 #include "boards/flatland/computer.h"
 #include "boards/flatland/tables.h"
-#include "frame/turn_flow.h"
+#include "frame/board_frame.h"
 #include "toolkit/form.h"
 
 namespace vrask {
 
-class GridSwitch;
-class Keypad;
-class OtherGames;
-class RoundList;
-class SidePanel;
-class SuddenDeath;
-class TurnFlow;
-
-class Form1large : public Form {
+class Form1large : public Form, private BoardFrame {
  public:
   explicit Form1large(Program& program);
   ~Form1large() override;
@@ -46,12 +38,9 @@ class Form1large : public Form {
   void addWorkingElements();
   void addMenus();
   void addGamesMenu();
-  void addOptionsMenu();
   void addBoardMenu();
-  void addHelpAndExit();
   void registerHandlers();
   void registerVariables();
-  void styleClickTargets();
   void saveDesignColours();
   void clearCircles();
   void applyBubblelandStart();
@@ -118,7 +107,6 @@ class Form1large : public Form {
   ElementArray* Shape1_ = nullptr;
   ElementArray* Label2_ = nullptr;
   ElementArray* game_ = nullptr;
-  ElementArray* ip_ = nullptr;
   ElementArray* ver_ = nullptr;
   ElementArray* sizsq_ = nullptr;
   Element* Label8 = nullptr;
@@ -128,16 +116,7 @@ class Form1large : public Form {
   Element* Label36 = nullptr;
   Element* List1 = nullptr;
   Element* sks = nullptr;
-  Element* ks = nullptr;
   Element* kda = nullptr;
-
-  std::unique_ptr<SidePanel> panel_;
-  std::unique_ptr<SuddenDeath> sd_;
-  std::unique_ptr<GridSwitch> grid_;
-  std::unique_ptr<Keypad> keypad_;
-  std::unique_ptr<OtherGames> otherGames_;
-  std::unique_ptr<RoundList> roundList_;
-  std::unique_ptr<TurnFlow> flow_;
 
   // --- the game -------------------------------------------------------------
   int gamemode = flatland::SuperVraskPlus;
