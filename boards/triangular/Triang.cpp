@@ -6,14 +6,7 @@
 #include "boards/triangular/captions.h"
 #include "boards/triangular/layout.h"
 #include "boards/triangular/look.h"
-#include "frame/grid_switch.h"
-#include "frame/keypad.h"
-#include "frame/other_games.h"
-#include "frame/round_list.h"
 #include "frame/session_menu.h"
-#include "frame/side_panel.h"
-#include "frame/sudden_death.h"
-#include "frame/turn_flow.h"
 #include "launcher/shared_state.h"
 
 namespace vrask {
@@ -23,14 +16,7 @@ namespace lay = triangular::layout;
 
 namespace {
 
-// A mid grey: the yellow numbers, the Blue, Red and Black marks and the five
-// design colours all stand out on it.
-constexpr int kBoardColour = 0x606060;
 constexpr double kCellNumberSize = 12;
-constexpr double kLineNumberSize = 7;
-
-constexpr std::array<const char*, 4> kPlayerCaptions{"1 player verus the computer", "2 Players",
-                                                     "3 Players", "2 Players versus the computer"};
 
 std::string sizeNumber(int size) {
   return std::to_string(size);
@@ -44,11 +30,7 @@ Triang::~Triang() = default;
 
 // The design first, in paint order, then the load.
 void Triang::Form_Load() {
-  Caption = shared().text(shared::kProductTitle);
-  Width = lay::kFormWidth;
-  Height = lay::kFormHeight;
-  openAboveCentre = 300;
-  BackColor = kBoardColour;
+  designBoardWindow(*this, lay::kFormWidth, lay::kFormHeight);
   panel_ = std::make_unique<SidePanel>(*this, SidePanelConfig{.left = lay::kSidePanelLeft,
                                                               .movesLeft = "Label13",
                                                               .lastMove = "Label12",
@@ -63,17 +45,13 @@ void Triang::Form_Load() {
   Label13 = &panel_->movesLeft();
   addWorkingElements();
   addMenus();
-  roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.place = panel_->roundList()});
-  flow_ = std::make_unique<TurnFlow>(
-      *this, *roundList_, *keypad_,
-      TurnFlowNames{.lastMove = "Label12", .gameMenus = {"opts", "kda", "sks", "ks"}});
+  addRoundsAndFlow(*this, "Label12");
   registerHandlers();
   registerVariables();
 
-  styleClickTargets();
   clearCircles();
   celllines = start();
-  board_ = cellBoard(celllines);
+  cells_ = cellBoard(celllines);
   applyBubblelandStart();
   game_Click(SuperVraskPlus);
   sd_->choose(1);
@@ -81,17 +59,15 @@ void Triang::Form_Load() {
 
 void Triang::addBoard() {
   std::array<int, kLines + 1> design = designColours();
-  ln1_ = &addArray("ln1", Kind::Line, 1, kLines);
-  for (Element& line : *ln1_) {
-    placedLine(line, lay::lineAt(line.index)).BorderColor =
-        design.at(static_cast<size_t>(line.index));
-  }
-  Shape1_ = &addArray("Shape1", Kind::Shape, 1, kCells);
-  for (Element& circle : *Shape1_) placed(circle, lay::circleAt(circle.index));
-  Label1_ = &addArray("Label1", Kind::Label, 1, kLines);
-  for (Element& strip : *Label1_) placed(strip, lay::stripAt(strip.index));
-  Label2_ = &addArray("Label2", Kind::Label, 1, kCells);
-  for (Element& target : *Label2_) placed(target, lay::numberAt(target.index));
+  board_ = addBoardElements(
+      *this, kLines, kCells,
+      {.line = lay::lineAt,
+       .colour = [design](int line) { return design.at(static_cast<size_t>(line)); },
+       .strip = lay::stripAt,
+       .circle = lay::circleAt,
+       .target = lay::numberAt,
+       .cellNumberSize = kCellNumberSize,
+       .boldCellNumbers = true});
 }
 
 // `List1` is the board's working list of last moves: nothing fills it, so
@@ -108,11 +84,13 @@ void Triang::addMenus() {
          lay::kNewRoundHeight)
       .Caption = "New game";
   addGamesMenu();
-  addOptionsMenu();
+  addOptionsMenu(
+      *this, [this](bool on) { shgrid_Click(on); }, [this] { Command6_Click(); },
+      lay::keypadUnder(panel_->keypad()));
   addBoardMenu();
   otherGames_ = std::make_unique<OtherGames>(
       *this, OtherGamesNames{.twoD = "fcbm", .threeD = "zcbm", .fourD = "cbm"});
-  addHelpAndExit();
+  addHelpAboutExit(*this);
 }
 
 // Only Ombrel, Super Vrask and Super Vrask Plus are offered; the other slots
@@ -130,30 +108,9 @@ void Triang::addGamesMenu() {
   addMenu("gmc", "", "New");
 }
 
-void Triang::addOptionsMenu() {
-  ks = &addMenu("ks", "", "Options");
-  ip_ = &addMenuArray("ip", "ks", 0, 3);
-  for (Element& entry : *ip_) {
-    entry.Caption = kPlayerCaptions.at(static_cast<size_t>(entry.index));
-    entry.Visible = entry.index <= 1;
-  }
-  ip(0).Checked = true;
-  addMenu("osep", "ks", "-");
-  sd_ = std::make_unique<SuddenDeath>(*this, SuddenDeathConfig{.bar = panel_->timeBar()});
-  grid_ = std::make_unique<GridSwitch>(*this, "ks", [this](bool on) { shgrid_Click(on); });
-  keypad_ = std::make_unique<Keypad>(
-      *this, *grid_, [this] { Command6_Click(); },
-      KeypadConfig{.panel = lay::keypadUnder(panel_->keypad()), .opener = panel_->keypadOpener()});
-  addOnlineEntries(*this, "ks");
-}
-
 void Triang::addBoardMenu() {
   kda = &addMenu("kda", "", "Board");
-  ver_ = &addMenuArray("ver", "kda", 1, 2);
-  ver(1).Caption = "Flatland";
-  ver(2).Caption = "Bubbleland";
-  ver(1).Checked = true;
-  addMenu("ksep", "kda", "-");
+  ver_ = &addWorldEntries(*this, "kda");
   szmen_ = &addMenuArray("szmen", "kda", 1, kNormalSize);
   for (Element& entry : *szmen_) {
     entry.Caption = kSizeCaptions.at(static_cast<size_t>(entry.index));
@@ -161,80 +118,55 @@ void Triang::addBoardMenu() {
   (*szmen_)[kNormalSize].Checked = true;
 }
 
-// Help and About stay open during a game, and so does Exit.
-void Triang::addHelpAndExit() {
-  addMenu("hlp", "", "Help");
-  addHelpEntry(*this, "rh", "hlp");
-  addAboutEntry(*this, "abt", "hlp");
-  addExitEntry(*this, "");
-}
-
+// Handlers by the program's names: the indexed ones with their element's
+// index, and the three ways to New.
 void Triang::registerHandlers() {
-  handleIndexed("Label1_Click", [this](int line) { Label1_Click(line); });
-  handleIndexed("Label2_Click", [this](int cell) { Label2_Click(cell); });
-  handleIndexed("Label133_Click", [this](int size) { szmen_Click(size); });
-  handleIndexed("szmen_Click", [this](int size) { szmen_Click(size); });
-  handleIndexed("game_Click", [this](int index) { game_Click(index); });
-  handleIndexed("ip_Click", [this](int i) { ip_Click(i); });
+  using Indexed = void (Triang::*)(int);
+  const std::pair<const char*, Indexed> kIndexed[] = {
+      {"Label1_Click", &Triang::Label1_Click},  {"Label2_Click", &Triang::Label2_Click},
+      {"Label133_Click", &Triang::szmen_Click}, {"szmen_Click", &Triang::szmen_Click},
+      {"game_Click", &Triang::game_Click},      {"ip_Click", &Triang::ip_Click}};
+  for (auto [name, handler] : kIndexed) {
+    handleIndexed(name, [this, handler](int i) { (this->*handler)(i); });
+  }
   handleIndexed("ver_Click", [this](int) { ver_Click(); });
-  handle("gmc_Click", [this] { gmc_Click(); });
-  handle("Command1_Click", [this] { gmc_Click(); });
-  handle("Command7_Click", [this] { gmc_Click(); });
+  for (const char* name : {"gmc_Click", "Command1_Click", "Command7_Click"}) {
+    handle(name, [this] { gmc_Click(); });
+  }
 }
 
+// The game's state by the program's names; `celllines` and `sidemark` by
+// cell and slot 1..3.
 void Triang::registerVariables() {
-  var("gameindex", gameindex);
-  var("movestotal", movestotal);
-  var("whosnext", whosnext);
-  var("openerflag", openerflag);
-  var("mark", mark);
-  var("finished", finished);
-  var("gameover", gameover);
-  var("inputlock", inputlock);
-  var("endgameflag", endgameflag);
-  var("lastcell", lastcell);
-  var("freshboard", freshboard);
-  auto each = [](const auto& table) {
-    return [&table](int i) { return num(table.at(static_cast<size_t>(i))); };
-  };
-  varArray("celltaken", 1, kCells, each(celltaken));
-  varArray("cellscored", 1, kCells, each(cellscored));
-  varArray("lineowner", 1, kLines, each(lineowner));
-  varArray("sidecount", 1, kCells, each(sidecount));
-  varArray("linecount", 1, kCells, each(linecount));
-  auto perSlot = [](const auto& table) {
-    return [&table](int cell, int slot) {
-      return num(table.at(static_cast<size_t>(cell)).at(static_cast<size_t>(slot - 1)));
-    };
-  };
-  varTable("celllines", {1, kCells}, {1, 3}, perSlot(celllines));
-  varTable("sidemark", {1, kCells}, {1, 3}, perSlot(sidemark));
+  for (auto [name, value] : {std::pair{"gameindex", &gameindex},
+                             {"movestotal", &movestotal},
+                             {"whosnext", &whosnext},
+                             {"openerflag", &openerflag},
+                             {"mark", &mark},
+                             {"finished", &finished},
+                             {"gameover", &gameover},
+                             {"inputlock", &inputlock},
+                             {"endgameflag", &endgameflag},
+                             {"lastcell", &lastcell},
+                             {"freshboard", &freshboard}}) {
+    var(name, *value);
+  }
+  varArrayOf("celltaken", 1, kCells, celltaken);
+  varArrayOf("cellscored", 1, kCells, cellscored);
+  varArrayOf("lineowner", 1, kLines, lineowner);
+  varArrayOf("sidecount", 1, kCells, sidecount);
+  varArrayOf("linecount", 1, kCells, linecount);
+  varTableOf("celllines", {1, kCells}, {1, 3}, celllines, 1);
+  varTableOf("sidemark", {1, kCells}, {1, 3}, sidemark, 1);
   varArray("candidates", 1, kLines, [this](int i) {
-    return num(i <= static_cast<int>(candidates.size()) ? candidates[static_cast<size_t>(i - 1)]
-                                                        : 0);
+    auto at = static_cast<size_t>(i);
+    return num(at <= candidates.size() ? candidates[at - 1] : 0);
   });
-}
-
-// The hit areas show nothing but the numbers of the grid.
-void Triang::styleClickTargets() {
-  for (Element& target : *Label2_) {
-    target.FontSize = kCellNumberSize;
-    target.FontBold = true;
-    target.ForeColor = color::Yellow;
-    target.Alignment = AlignCenter;
-    target.BackStyle = 0;
-  }
-  for (Element& strip : *Label1_) {
-    strip.FontSize = kLineNumberSize;
-    strip.ForeColor = color::Yellow;
-    strip.Alignment = AlignCenter;
-    strip.BackStyle = 0;
-  }
 }
 
 // A circle at the start of a game: the board's colour inside, a black rim.
 void Triang::clearCircles() {
-  for (Element& circle : *Shape1_) {
+  for (Element& circle : *board_.circles) {
     circle.FillColor = BackColor;
     circle.BackColor = BackColor;
     circle.FillStyle = 1;
@@ -246,8 +178,8 @@ void Triang::clearCircles() {
 
 void Triang::applyBubblelandStart() {
   if (shared().number(shared::kBubblelandStart) != 1) return;
-  ver(1).Checked = false;
-  ver(2).Checked = true;
+  (*ver_)[1].Checked = false;
+  (*ver_)[2].Checked = true;
 }
 
 }  // namespace vrask

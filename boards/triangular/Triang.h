@@ -19,20 +19,14 @@
 #include <vector>
 
 #include "boards/triangular/tables.h"
+#include "frame/board_design.h"
+#include "frame/board_frame.h"
 #include "frame/cell_board.h"
 #include "toolkit/form.h"
 
 namespace vrask {
 
-class GridSwitch;
-class Keypad;
-class OtherGames;
-class RoundList;
-class SidePanel;
-class SuddenDeath;
-class TurnFlow;
-
-class Triang : public Form {
+class Triang : public Form, private BoardFrame {
  public:
   explicit Triang(Program& program);
   ~Triang() override;
@@ -44,12 +38,9 @@ class Triang : public Form {
   void addWorkingElements();
   void addMenus();
   void addGamesMenu();
-  void addOptionsMenu();
   void addBoardMenu();
-  void addHelpAndExit();
   void registerHandlers();
   void registerVariables();
-  void styleClickTargets();
   void clearCircles();
   void applyBubblelandStart();
 
@@ -105,41 +96,20 @@ class Triang : public Form {
   void paintRedExtension(int cell);
   void compmove(int cell);
 
-  // --- elements by the board's own names ------------------------------------------
-  Element& ln1(int i) { return (*ln1_)[i]; }
-  Element& Label1(int i) { return (*Label1_)[i]; }
-  Element& Shape1(int i) { return (*Shape1_)[i]; }
-  Element& Label2(int i) { return (*Label2_)[i]; }
-  Element& game(int i) { return (*game_)[i]; }
-  Element& ip(int i) { return (*ip_)[i]; }
-  Element& ver(int i) { return (*ver_)[i]; }
-  bool lineShows(int line) const { return (*ln1_)[line].Visible; }
-  bool cellShows(int cell) const { return (*Shape1_)[cell].Visible; }
+  // --- elements by the board's own names ----------------------------------------
+  Element& ln1(int i) { return (*board_.lines)[i]; }
+  Element& Shape1(int i) { return (*board_.circles)[i]; }
+  Element& Label2(int i) { return (*board_.targets)[i]; }
+  bool lineShows(int line) const { return (*board_.lines)[line].Visible; }
+  bool cellShows(int cell) const { return (*board_.circles)[cell].Visible; }
   bool drawn(int line) const;
 
-  ElementArray* ln1_ = nullptr;
-  ElementArray* Label1_ = nullptr;
-  ElementArray* Shape1_ = nullptr;
-  ElementArray* Label2_ = nullptr;
-  ElementArray* game_ = nullptr;
-  ElementArray* ip_ = nullptr;
-  ElementArray* ver_ = nullptr;
-  ElementArray* szmen_ = nullptr;
-  Element* Label13 = nullptr;
-  Element* Label33 = nullptr;
-  Element* Label36 = nullptr;
-  Element* List1 = nullptr;
-  Element* sks = nullptr;
-  Element* ks = nullptr;
-  Element* kda = nullptr;
-
-  std::unique_ptr<SidePanel> panel_;
-  std::unique_ptr<SuddenDeath> sd_;
-  std::unique_ptr<GridSwitch> grid_;
-  std::unique_ptr<Keypad> keypad_;
-  std::unique_ptr<OtherGames> otherGames_;
-  std::unique_ptr<RoundList> roundList_;
-  std::unique_ptr<TurnFlow> flow_;
+  BoardElements board_{};  // ln1, Shape1, Label1, Label2
+  ElementArray *game_ = nullptr, *ver_ = nullptr, *szmen_ = nullptr;
+  // The status, the game's name, moves left, and the menus by the sides of
+  // the panel.
+  Element *Label33 = nullptr, *Label36 = nullptr, *Label13 = nullptr, *List1 = nullptr;
+  Element *sks = nullptr, *kda = nullptr;
 
   // --- the game -----------------------------------------------------------------------
   int gameindex = triangular::SuperVraskPlus;
@@ -157,7 +127,7 @@ class Triang : public Form {
   int lastcell = 0;
   int freshboard = 0;
   triangular::CellLines celllines{};
-  CellBoard board_;
+  CellBoard cells_;
   triangular::CellFlags celltaken{};
   triangular::CellFlags cellscored{};
   triangular::LineValues lineowner{};

@@ -7,8 +7,6 @@
 #include "boards/triangular/Triang.h"
 #include "boards/triangular/captions.h"
 #include "boards/triangular/look.h"
-#include "frame/sudden_death.h"
-#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -27,7 +25,7 @@ constexpr int kComputerMark = 1;
 void Triang::computerLineMove() {
   inputlock = 1;
   sidecount = countMarkedSides(sidemark);
-  candidates = board_.cellsToComplete(sidecount);
+  candidates = cells_.cellsToComplete(sidecount);
   whosnext = 0;
   if (!candidates.empty()) {
     int cell = candidates.front();
@@ -38,7 +36,7 @@ void Triang::computerLineMove() {
     return;
   }
 
-  candidates = board_.safeLines(
+  candidates = cells_.safeLines(
       sidecount, [this](int line) { return lineowner.at(line) == 0 && lineShows(line); });
   drawComputerLine(flow_->pickFrom(candidates));
   Label13->Caption = movesLeft(kLines - linesTakenOrHidden());
@@ -78,13 +76,13 @@ void Triang::bbland(int line) {
 // count after its move finds the last free cell, which the program plays.
 void Triang::redchack() {
   auto shows = [this](int cell) { return cellShows(cell); };
-  linecount = board_.countSides([this](int line) { return drawn(line); });
-  int cell = board_.vraskTarget(linecount, celltaken, shows);
+  linecount = cells_.countSides([this](int line) { return drawn(line); });
+  int cell = cells_.vraskTarget(linecount, celltaken, shows);
   if (cell == 0) {
     // Every free cell is bare. No count follows: the next move's judging
     // makes it.
     if (flow_->moverColour() != color::Red) return;
-    candidates = board_.openCells(celltaken, shows);
+    candidates = cells_.openCells(celltaken, shows);
     cell = flow_->pickFrom(candidates);
     Refresh();
     wait(kCirclePause);

@@ -3,11 +3,6 @@
 #include "boards/triangular/Triang.h"
 #include "boards/triangular/captions.h"
 #include "boards/triangular/look.h"
-#include "frame/grid_switch.h"
-#include "frame/keypad.h"
-#include "frame/side_panel.h"
-#include "frame/sudden_death.h"
-#include "frame/turn_flow.h"
 #include "launcher/shared_state.h"
 
 namespace vrask {
@@ -22,7 +17,7 @@ void Triang::game_Click(int index) {
       (gameindex == Ombrel && index > Dorvel) || (gameindex > Dorvel && index == Ombrel);
   if (crossing && grid_->on()) grid_->toggle();
   for (Element& entry : *game_) entry.Checked = false;
-  game(index).Checked = true;
+  (*game_)[index].Checked = true;
   gameindex = index;
   Label36->Caption = gameLabel(index);
   Label33->Caption = playedOnLines(index) ? kClickALine : kClickACircle;
@@ -31,8 +26,8 @@ void Triang::game_Click(int index) {
 
 void Triang::ip_Click(int i) {
   if (i > 1) return;
-  ip(i).Checked = true;
-  ip(1 - i).Checked = false;
+  (*ip_)[i].Checked = true;
+  (*ip_)[1 - i].Checked = false;
   // Two players may be far apart: the keypad carries their moves.
   if (i == 1) {
     keypad_->open();
@@ -48,17 +43,17 @@ void Triang::szmen_Click(int size) {
   if (size < kNormalSize && bubbleland()) ver_Click();
   Hidden hidden = hiddenBySize(size);
   bool onLines = playedOnLines(gameindex);
-  showOnBoard(*ln1_, hidden.lines, true);
-  showOnBoard(*Label1_, hidden.lines, onLines);
-  showOnBoard(*Shape1_, hidden.cells, true);
-  showOnBoard(*Label2_, hidden.cells, !onLines);
+  showOnBoard(*board_.lines, hidden.lines, true);
+  showOnBoard(*board_.strips, hidden.lines, onLines);
+  showOnBoard(*board_.circles, hidden.cells, true);
+  showOnBoard(*board_.targets, hidden.cells, !onLines);
   movestotal = triangular::movestotal(gameindex, size);
   Label13->Caption = movesLeft(movestotal);
 
   for (Element& entry : *szmen_) entry.Checked = entry.index == size;
   panel_->markSize(size);
-  ver(1).Enabled = size == kNormalSize;
-  ver(2).Enabled = size == kNormalSize;
+  (*ver_)[1].Enabled = size == kNormalSize;
+  (*ver_)[2].Enabled = size == kNormalSize;
 }
 
 void Triang::showOnBoard(ElementArray& targets, const std::vector<int>& hidden, bool inPlay) {
@@ -71,20 +66,20 @@ void Triang::showOnBoard(ElementArray& targets, const std::vector<int>& hidden, 
 // board opened later starts in Flatland. Super Vrask has no place in
 // Bubbleland's menu: its tick goes to Ombrel, though the game chosen stays.
 void Triang::ver_Click() {
-  bool toBubbleland = ver(1).Checked;
-  ver(1).Checked = !toBubbleland;
-  ver(2).Checked = toBubbleland;
+  bool toBubbleland = (*ver_)[1].Checked;
+  (*ver_)[1].Checked = !toBubbleland;
+  (*ver_)[2].Checked = toBubbleland;
   shared().set(shared::kBubblelandStart, num(0));
-  if (toBubbleland && game(SuperVrask).Checked) {
-    game(SuperVrask).Checked = false;
-    game(Ombrel).Checked = true;
+  if (toBubbleland && (*game_)[SuperVrask].Checked) {
+    (*game_)[SuperVrask].Checked = false;
+    (*game_)[Ombrel].Checked = true;
   }
 }
 
 // The numbers stand on the targets of the game: lines in Ombrel, circles in
 // the others.
 void Triang::shgrid_Click(bool on) {
-  ElementArray& numbered = gameindex == Ombrel ? *Label1_ : *Label2_;
+  ElementArray& numbered = gameindex == Ombrel ? *board_.strips : *board_.targets;
   for (Element& target : numbered) target.Caption = on ? std::to_string(target.index) : "";
 }
 
@@ -104,9 +99,9 @@ void Triang::gmc_Click() {
   sd_->stop();
 
   openerflag = openerflag == 0 ? 1 : 0;
-  bool twoPlayers = ip(1).Checked;
-  ip(1).Checked = twoPlayers;
-  ip(0).Checked = !twoPlayers;
+  bool twoPlayers = (*ip_)[1].Checked;
+  (*ip_)[1].Checked = twoPlayers;
+  (*ip_)[0].Checked = !twoPlayers;
   resetBoard();
 
   if (playedOnLines(gameindex)) {
@@ -129,7 +124,7 @@ void Triang::gmc_Click() {
 // start of a game.
 void Triang::resetBoard() {
   clearCircles();
-  for (Element& target : *Label2_) target.Visible = true;
+  for (Element& target : *board_.targets) target.Visible = true;
   szmen_Click(checkedSize());
   flow_->zeroScores();
   List1->Clear();
@@ -140,7 +135,7 @@ void Triang::resetBoard() {
   whosnext = openerflag;
   flow_->say(gameindex > Dorvel ? kClickACircle : kClickALine, color::Blue);
   std::array<int, kLines + 1> design = designColours();
-  for (Element& line : *ln1_) {
+  for (Element& line : *board_.lines) {
     line.BorderWidth = 1;
     line.BorderColor = design.at(static_cast<size_t>(line.index));
   }
@@ -151,7 +146,7 @@ void Triang::resetBoard() {
 // The board has just been dealt, so the count that follows finds no end.
 void Triang::computerOpensCircleGame() {
   whosnext = 1;
-  candidates = board_.openCells(celltaken, [this](int cell) { return cellShows(cell); });
+  candidates = cells_.openCells(celltaken, [this](int cell) { return cellShows(cell); });
   int cell = flow_->pickFrom(candidates);
   compmove(cell);
   paintRedExtension(cell);

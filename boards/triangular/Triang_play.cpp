@@ -5,8 +5,6 @@
 #include "boards/triangular/Triang.h"
 #include "boards/triangular/captions.h"
 #include "boards/triangular/look.h"
-#include "frame/sudden_death.h"
-#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -103,7 +101,7 @@ void Triang::paintLine(int line, int colour) {
 void Triang::Command6_Click() {
   if (inputlock == 1) return;
   bool onLines = gameindex == Ombrel;
-  std::optional<int> target = flow_->typedTarget(onLines ? *Label1_ : *Label2_);
+  std::optional<int> target = flow_->typedTarget(onLines ? *board_.strips : *board_.targets);
   if (!target) return;
   if (onLines) {
     Label1_Click(*target);
@@ -113,7 +111,7 @@ void Triang::Command6_Click() {
 }
 
 bool Triang::drawn(int line) const {
-  return (*ln1_)[line].BorderWidth == kDrawn;
+  return (*board_.lines)[line].BorderWidth == kDrawn;
 }
 
 }  // namespace vrask

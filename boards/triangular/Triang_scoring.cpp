@@ -5,8 +5,6 @@
 #include "boards/triangular/Triang.h"
 #include "boards/triangular/captions.h"
 #include "boards/triangular/look.h"
-#include "frame/sudden_death.h"
-#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -80,7 +78,7 @@ void Triang::settleLineTurn(int newly) {
 // Each new cell shows its three lines in yellow for a second.
 void Triang::flash(const std::vector<int>& cells) {
   for (int cell : cells) {
-    flow_->flash(*ln1_, board_.sides(cell), kFlashGap, kFlashHold);
+    flow_->flash(*board_.lines, cells_.sides(cell), kFlashGap, kFlashHold);
     cellscored.at(cell) = 1;
   }
 }
