@@ -28,8 +28,10 @@ Triang::Triang(Program& program) : Form(program, "Triang") {}
 
 Triang::~Triang() = default;
 
-// The design first, in paint order, then the load.
+// The tables first, then the design in paint order, then the load.
 void Triang::Form_Load() {
+  celllines = start();
+  cells_ = cellBoard(celllines);
   designBoardWindow(*this, lay::kFormWidth, lay::kFormHeight);
   panel_ = std::make_unique<SidePanel>(*this, SidePanelConfig{.left = lay::kSidePanelLeft,
                                                               .movesLeft = "Label13",
@@ -39,22 +41,15 @@ void Triang::Form_Load() {
                                                               .lastSize = kNormalSize,
                                                               .sizeCaption = sizeNumber});
   addBoard();
-  panel_->addColumn();
-  Label33 = &panel_->status();
-  Label36 = &panel_->gameName();
-  Label13 = &panel_->movesLeft();
-  addWorkingElements();
+  addPanelColumn();
   addMenus();
   addRoundsAndFlow(*this, "Label12");
-  registerHandlers();
-  registerVariables();
+  registerNames();
 
   clearCircles();
-  celllines = start();
-  cells_ = cellBoard(celllines);
+  sd_->choose(1);
   applyBubblelandStart();
   game_Click(SuperVraskPlus);
-  sd_->choose(1);
 }
 
 void Triang::addBoard() {
@@ -68,6 +63,15 @@ void Triang::addBoard() {
        .target = lay::numberAt,
        .cellNumberSize = kCellNumberSize,
        .boldCellNumbers = true});
+}
+
+// The panel's column over the board's side, and the labels the rules write.
+void Triang::addPanelColumn() {
+  panel_->addColumn();
+  Label33 = &panel_->status();
+  Label36 = &panel_->gameName();
+  Label13 = &panel_->movesLeft();
+  addWorkingElements();
 }
 
 // `List1` is the board's working list of last moves: nothing fills it, so
@@ -118,8 +122,13 @@ void Triang::addBoardMenu() {
   (*szmen_)[kNormalSize].Checked = true;
 }
 
-// Handlers by the program's names: the indexed ones with their element's
-// index, and the three ways to New.
+// Handlers and state by the program's names.
+void Triang::registerNames() {
+  registerHandlers();
+  registerVariables();
+}
+
+// The indexed handlers with their element's index, and the three ways to New.
 void Triang::registerHandlers() {
   using Indexed = void (Triang::*)(int);
   const std::pair<const char*, Indexed> kIndexed[] = {

@@ -35,10 +35,12 @@ class Triang : public Form, private BoardFrame {
  private:
   // --- design and load (Triang.cpp) --------------------------------------------
   void addBoard();
+  void addPanelColumn();
   void addWorkingElements();
   void addMenus();
   void addGamesMenu();
   void addBoardMenu();
+  void registerNames();
   void registerHandlers();
   void registerVariables();
   void clearCircles();
@@ -59,22 +61,24 @@ class Triang : public Form, private BoardFrame {
   bool bubbleland() const;
   bool onePlayer() const;
 
-  // --- moves (Triang_play.cpp) --------------------------------------------------------
+  // --- Ombrel: a person's line (Triang_play.cpp), its judging (Triang_scoring.cpp)
   void Label1_Click(int line);
-  void Label2_Click(int cell);
-  void Command6_Click();
+  int passLineTurn();
   void markSides(int line, int mark);
-  void paintCell(int cell, int colour);
-  void paintExtension(int cell, int colour);
-  void paintLine(int line, int colour);
-
-  // --- judging and the end (Triang_scoring.cpp) ---------------------------------------
+  int linesTakenOrHidden() const;
+  // after each line: the cells it closed, who goes next, their flash
   void checkwins();
   void judgeLines();
   std::vector<int> newlyClosed();
   void settleLineTurn(int newly);
   void flash(const std::vector<int>& cells);
-  int linesTakenOrHidden() const;
+
+  // --- circle games: a person's circle (Triang_play.cpp), the judging and
+  // the end (Triang_scoring.cpp)
+  void Label2_Click(int cell);
+  void paintCell(int cell, int colour);
+  void paintExtension(int cell, int colour);
+  void paintLine(int line, int colour);
   void chackmoves();
   void passCircleTurn();
   struct FreeCells {
@@ -88,8 +92,13 @@ class Triang : public Form, private BoardFrame {
   void outtahere();
   void recordRound();
 
+  // --- a typed number (Triang_play.cpp)
+  void Command6_Click();
+
   // --- the computer (Triang_computer.cpp) ------------------------------------------
   void computerLineMove();
+  void closeCell(int cell);
+  void drawSafeLine();
   void drawComputerLine(int line);
   void bbland(int line);
   void redchack();

@@ -2,6 +2,7 @@
 // two brains that share nothing: one draws lines in Ombrel, the other plays
 // circles (`redchack`). Their choices are the rules every board shares
 // (frame/cell_board.h); these are the moves they make, with their pauses.
+#include <algorithm>
 #include <string>
 
 #include "boards/triangular/Triang.h"
@@ -12,35 +13,35 @@ namespace vrask {
 
 using namespace triangular;
 
-namespace {
-
-constexpr double kCirclePause = 2;
-constexpr int kComputerMark = 1;
-
-}  // namespace
-
-// Ombrel: close the lowest cell with two sides and judge again, so the cell
-// counts for Red and the computer draws again; with nothing to close, a
-// random line that gives no cell its second side, if there is one.
+// Ombrel. Every cell with two sides is closed, lowest first, each line
+// judged at once so the cell counts for Red and the computer goes again; then
+// a random line that gives no cell its second side, if there is one.
 void Triang::computerLineMove() {
   inputlock = 1;
-  sidecount = countMarkedSides(sidemark);
-  candidates = cells_.cellsToComplete(sidecount);
+  candidates = cells_.cellsToComplete(sidecount = countMarkedSides(sidemark));
   whosnext = 0;
-  if (!candidates.empty()) {
-    int cell = candidates.front();
-    for (size_t slot = 0; slot < 3; ++slot) {
-      if (sidemark.at(cell).at(slot) == 0) drawComputerLine(celllines.at(cell).at(slot));
-    }
-    judgeLines();
+  if (candidates.empty()) {
+    drawSafeLine();
     return;
   }
+  closeCell(candidates.front());
+  judgeLines();
+}
 
+// The one side of `cell` that has no mark.
+void Triang::closeCell(int cell) {
+  const auto& marks = sidemark.at(cell);
+  auto open = std::find(marks.begin(), marks.end(), 0);
+  drawComputerLine(celllines.at(cell).at(static_cast<size_t>(open - marks.begin())));
+}
+
+// A random line among those that give no cell its second side; it closes
+// nothing, so Blue is next.
+void Triang::drawSafeLine() {
   candidates = cells_.safeLines(
       sidecount, [this](int line) { return lineowner.at(line) == 0 && lineShows(line); });
   drawComputerLine(flow_->pickFrom(candidates));
   Label13->Caption = movesLeft(kLines - linesTakenOrHidden());
-  // No cell had two sides, so this line closes nothing: Blue is next.
   flow_->showTurn(Side::Blue);
   flow_->say(noScore("Blue"), color::Blue);
   inputlock = 0;
@@ -58,7 +59,7 @@ void Triang::drawComputerLine(int line) {
   flow_->computerPause();
   flow_->showLastMove(line);
   ln1(line).BorderColor = color::Red;
-  lineowner.at(line) = kComputerMark;
+  lineowner.at(line) = kRedMark;
   markSides(line, mark);
 }
 
@@ -67,7 +68,7 @@ void Triang::bbland(int line) {
   int twin = twinOf(line);
   if (twin == 0) return;
   paintLine(twin, color::Red);
-  lineowner.at(twin) = kComputerMark;
+  lineowner.at(twin) = kRedMark;
   markSides(twin, mark);
 }
 

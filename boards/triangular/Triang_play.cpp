@@ -10,13 +10,6 @@ namespace vrask {
 
 using namespace triangular;
 
-namespace {
-
-constexpr int kRedMark = 1;
-constexpr int kBlueMark = 2;
-
-}  // namespace
-
 // A move on a line. In Bubbleland a rim line is drawn with its twin, and the
 // cells on both sides of the seam get the side.
 void Triang::Label1_Click(int line) {
@@ -29,11 +22,7 @@ void Triang::Label1_Click(int line) {
   flow_->showLastMove(line);
   ln1(line).BorderWidth = kDrawn;
 
-  bool redMoves = whosnext == 1;
-  whosnext = redMoves ? 0 : 1;
-  int colour = redMoves ? color::Red : color::Blue;
-  flow_->showTurn(redMoves ? Side::Blue : Side::Red);
-  mark = redMoves ? kRedMark : kBlueMark;
+  int colour = passLineTurn();
 
   ln1(line).BorderColor = colour;
   lineowner.at(line) = mark;
@@ -46,6 +35,16 @@ void Triang::Label1_Click(int line) {
   if (twin != 0) markSides(twin, mark);
   sd_->resetTime();
   checkwins();
+}
+
+// The side `whosnext` names draws the line (Red at 1) with its mark, and the
+// turn goes over to the other side.
+int Triang::passLineTurn() {
+  bool redMoves = whosnext == 1;
+  whosnext = redMoves ? 0 : 1;
+  mark = redMoves ? kRedMark : kBlueMark;
+  flow_->showTurn(redMoves ? Side::Blue : Side::Red);
+  return redMoves ? color::Red : color::Blue;
 }
 
 void Triang::markSides(int line, int mark) {

@@ -10,13 +10,6 @@ namespace vrask {
 
 using namespace triangular;
 
-namespace {
-
-constexpr double kFlashHold = 1;
-constexpr double kFlashGap = 0.25;
-
-}  // namespace
-
 // --- games on lines ------------------------------------------------------------------
 
 void Triang::checkwins() {

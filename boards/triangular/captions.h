@@ -1,15 +1,16 @@
-// The texts the triangular board shows, to the character.
+// The triangular board's own texts, to the character (frame/captions.h holds
+// those it shares).
 #pragma once
 
 #include <array>
 #include <string>
 
+#include "frame/captions.h"
+
 namespace vrask::triangular {
 
-inline constexpr const char* kClickALine = "Click a line to begin playing";
-inline constexpr const char* kClickACircle = "Click a circle to begin playing";
-inline constexpr const char* kVraskMove = "Vrask!";
-inline constexpr const char* kLastMove = "Last move: ";
+// A line or a circle already played: the two refusals differ by the
+// exclamation mark.
 inline constexpr const char* kLineTaken = "Invalid move!";
 inline constexpr const char* kCircleTaken = "Invalid move";
 inline constexpr const char* kBluesTurn = "Blue player's turn";
@@ -34,9 +35,5 @@ inline std::string gameLabel(int game) {
 // The size menu and the size buttons, by size 1..3.
 inline constexpr std::array<const char*, 4> kSizeCaptions{"", "Mini Size", "Smaller size",
                                                           "Normal size"};
-
-inline std::string movesLeft(int n) {
-  return std::to_string(n) + " moves left";
-}
 
 }  // namespace vrask::triangular

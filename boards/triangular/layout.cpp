@@ -8,6 +8,12 @@ namespace vrask::triangular::layout {
 
 namespace {
 
+constexpr double kBoardTop = 720;    // the top row of points
+constexpr double kRowStep = 1440;    // from one row of points to the next
+constexpr double kPointStep = 1560;  // between two points of a row
+constexpr double kCircle = 495;      // a circle's box
+constexpr double kNumberDrop = 40;   // the cell's number, below the circle's top
+
 // The leftmost point of each row: the left edge steps 720 twips a row in the
 // upper half and 840 in the lower, so the figure is not quite symmetric.
 constexpr std::array<double, kVertexRows> kRowLeft{2640, 1920, 1200, 480, 1320, 2160, 3000};

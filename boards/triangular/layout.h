@@ -7,27 +7,6 @@
 
 namespace vrask::triangular::layout {
 
-struct Point {
-  double x = 0, y = 0;
-};
-
-inline constexpr double kBoardTop = 720;    // the top row of points
-inline constexpr double kRowStep = 1440;    // from one row of points to the next
-inline constexpr double kPointStep = 1560;  // between two points of a row
-inline constexpr double kCircle = 495;      // a circle's box
-inline constexpr double kNumberDrop = 40;   // the cell's number, below the circle's top
-
-Point pointAt(Vertex v);
-// Line `line` (1..90) from its first end to its second.
-Segment lineAt(int line);
-// The hit area `Label1(line)`: a strip along a lying line, a box over the
-// middle of a slanted one.
-Rect stripAt(int line);
-// The circle `Shape1(cell)`, centred in its triangle, and the hit area and
-// number `Label2(cell)` over it.
-Rect circleAt(int cell);
-Rect numberAt(int cell);
-
 // The form: the hexagon on the left, the side panel on the right.
 inline constexpr double kFormWidth = 17700;
 inline constexpr double kFormHeight = 10080;
@@ -40,5 +19,22 @@ inline constexpr double kNewRoundHeight = 390;
 inline Place keypadUnder(Place keypad) {
   return {keypad.left, keypad.top + 300};
 }
+
+struct Point {
+  double x = 0, y = 0;
+};
+
+// Where a point of the hexagon stands: rows 1440 twips apart from 720 down,
+// points 1560 apart in a row.
+Point pointAt(Vertex v);
+
+// Line `line` (1..90) from its first end to its second; its hit area
+// `Label1(line)`, a strip along a lying line or a box over the middle of a
+// slanted one; the circle `Shape1(cell)`, centred in its triangle; and the
+// hit area and number `Label2(cell)` over it, 40 twips lower.
+Segment lineAt(int line);
+Rect stripAt(int line);
+Rect circleAt(int cell);
+Rect numberAt(int cell);
 
 }  // namespace vrask::triangular::layout

@@ -5,7 +5,6 @@
 #include "boards/triangular/captions.h"
 #include "boards/triangular/tables.h"
 #include "frame/cell_board.h"
-#include "frame/helpers.h"
 #include "toolkit/form.h"
 
 namespace vrask::triangular {
@@ -14,80 +13,68 @@ namespace {
 
 constexpr std::array<int, 3> kGames{Ombrel, SuperVrask, SuperVraskPlus};
 
-std::string setupName(bool bubbleland, int size, int game) {
-  return std::string(bubbleland ? "Bubbleland " : "Flatland ") + std::to_string(size) + " " +
-         kGameCaptions.at(static_cast<size_t>(game));
-}
+// A game on the board: world, size, game and players, and the clicks that
+// set it up from a board just opened (`fromAnyState` false) or from any state
+// between games, where the Mini size first brings the board back to Flatland
+// (the world entries toggle).
+struct Setting {
+  bool bubbleland;
+  int size;
+  int game;
+  int players;
 
-// The bench's series, from a board just opened: every game the computer
-// plays at every size of Flatland, and in Bubbleland (normal size only).
-std::vector<Setup> benchSeries() {
-  std::vector<Setup> series;
-  auto add = [&](bool bubbleland, int size, int game) {
-    Setup setup{setupName(bubbleland, size, game), {}};
-    if (bubbleland) setup.clicks.push_back({"ver", 2});
-    setup.clicks.insert(setup.clicks.end(), {{"szmen", size}, {"game", game}, {"ip", 0}});
-    series.push_back(setup);
-  };
+  Setup setup(bool fromAnyState) const {
+    Setup s{std::string(bubbleland ? "Bubbleland " : "Flatland ") + std::to_string(size) + " " +
+                kGameCaptions.at(static_cast<size_t>(game)),
+            {}};
+    if (fromAnyState) s.clicks.push_back({"szmen", 1});
+    s.clicks.push_back({"szmen", size});
+    if (bubbleland) s.clicks.push_back({"ver", 2});
+    s.clicks.insert(s.clicks.end(), {{"game", game}, {"ip", players}});
+    return s;
+  }
+};
+
+// Every game at every size of Flatland, then in Bubbleland (normal size only).
+std::vector<Setting> allGames(int players) {
+  std::vector<Setting> games;
   for (int size = 1; size <= kNormalSize; ++size) {
-    for (int game : kGames) add(false, size, game);
+    for (int game : kGames) games.push_back({false, size, game, players});
   }
-  for (int game : kGames) add(true, kNormalSize, game);
-  return series;
-}
-
-// Every game a person can set up, from any state between games. The world
-// menu toggles, so the Mini size first brings the board back to Flatland;
-// Bubbleland is then one toggle away at the normal size.
-std::vector<Setup> allSetups() {
-  std::vector<Setup> setups;
-  for (int players : {0, 1}) {
-    for (int game : kGames) {
-      for (int size = 1; size <= kNormalSize; ++size) {
-        for (bool bubbleland : {false, true}) {
-          if (bubbleland && size != kNormalSize) continue;
-          Setup setup{setupName(bubbleland, size, game), {{"szmen", 1}, {"szmen", size}}};
-          if (bubbleland) setup.clicks.push_back({"ver", 2});
-          setup.clicks.insert(setup.clicks.end(), {{"game", game}, {"ip", players}});
-          setups.push_back(setup);
-        }
-      }
-    }
-  }
-  return setups;
+  for (int game : kGames) games.push_back({true, kNormalSize, game, players});
+  return games;
 }
 
 bool drawnIn(const Element& line, int colour) {
   return line.BorderWidth == kMarkedWidth && line.BorderColor == colour;
 }
 
+// What the drawn board says: the cells each side holds in the circle games,
+// the closed cells in Ombrel. A circle taken and not yet judged is the
+// computer's random reply, which the next move's judging counts.
 struct BoardCount {
-  int blue = 0;    // cells on the board whose three lines are drawn Blue
-  int red = 0;     // ... Red
-  int closed = 0;  // cells whose three sides are marked
-  // A circle taken whose cell is not yet judged: the computer's random
-  // reply, which the next move's judging counts.
+  int blue = 0;
+  int red = 0;
+  int closed = 0;
   bool uncounted = false;
 };
 
 BoardCount countBoard(Form& form) {
   static const CellBoard board = cellBoard(start());
   ElementArray& lines = *form.findArray("ln1");
-  ElementArray& circles = *form.findArray("Shape1");
-  ElementArray& targets = *form.findArray("Label2");
+  auto owned = [&](int line) { return numberOf(form, "lineowner", {line}) != 0; };
+  auto blue = [&](int line) { return drawnIn(lines[line], color::Blue); };
+  auto red = [&](int line) { return drawnIn(lines[line], color::Red); };
+  Counts closed = board.countSides(owned), blues = board.countSides(blue),
+         reds = board.countSides(red);
   BoardCount count;
   for (int cell = 1; cell <= kCells; ++cell) {
-    if (!circles[cell].Visible) continue;
-    int blue = 0, red = 0, marked = 0;
-    for (int line : board.sides(cell)) {
-      blue += drawnIn(lines[line], color::Blue) ? 1 : 0;
-      red += drawnIn(lines[line], color::Red) ? 1 : 0;
-      marked += numberOf(form, "lineowner", {line}) != 0 ? 1 : 0;
-    }
-    count.blue += blue == 3 ? 1 : 0;
-    count.red += red == 3 ? 1 : 0;
-    count.closed += marked == 3 ? 1 : 0;
-    count.uncounted |= targets[cell].Visible && numberOf(form, "celltaken", {cell}) != 0;
+    if (!elementOf(form, {"Shape1", cell}).Visible) continue;
+    count.blue += blues.at(cell) == 3 ? 1 : 0;
+    count.red += reds.at(cell) == 3 ? 1 : 0;
+    count.closed += closed.at(cell) == 3 ? 1 : 0;
+    count.uncounted |=
+        elementOf(form, {"Label2", cell}).Visible && numberOf(form, "celltaken", {cell}) != 0;
   }
   return count;
 }
@@ -96,21 +83,13 @@ bool onLines(Form& form) {
   return playedOnLines(static_cast<int>(numberOf(form, "gameindex")));
 }
 
-std::pair<int, int> points(Form& form) {
-  return {static_cast<int>(Val(elementOf(form, {"Label5", 0}).Caption)),
-          static_cast<int>(Val(elementOf(form, {"Label6", {}}).Caption))};
-}
-
-// Circle games: each side has the cells whose three lines are all its colour.
-// Ombrel: the two add up to the cells with three marked sides.
 std::optional<std::string> scoresDisagree(Form& form) {
   BoardCount count = countBoard(form);
-  auto [blue, red] = points(form);
+  auto [blue, red] = shownPoints(form);
   bool lines = onLines(form);
-  if (!lines && count.uncounted) return std::nullopt;
-  if (lines ? blue + red == count.closed : blue == count.blue && red == count.red) {
-    return std::nullopt;
-  }
+  bool agree = lines ? blue + red == count.closed
+                     : count.uncounted || (blue == count.blue && red == count.red);
+  if (agree) return std::nullopt;
   return "the labels read " + std::to_string(blue) + " and " + std::to_string(red) +
          ", the board " +
          (lines ? std::to_string(count.closed) + " closed cells"
@@ -120,20 +99,26 @@ std::optional<std::string> scoresDisagree(Form& form) {
 }  // namespace
 
 PlayDescriptor play() {
-  PlayDescriptor d;
-  d.form = "Triang";
-  d.setups = allSetups();
-  d.bench = benchSeries();
-  d.newGame = {"gmc", {}};
-  d.kinds = {{"Label1", kLineTaken}, {"Label2", kCircleTaken}};
-  d.kindInPlay = [](Form& form) { return onLines(form) ? 0U : 1U; };
-  d.taken = [](Form& form, size_t kind, int n) {
-    return numberOf(form, kind == 0 ? "lineowner" : "celltaken", {n}) != 0;
+  std::vector<Setup> setups, bench;
+  for (int players : {0, 1}) {
+    for (const Setting& game : allGames(players)) setups.push_back(game.setup(true));
+  }
+  for (const Setting& game : allGames(0)) bench.push_back(game.setup(false));
+  return {
+      .form = "Triang",
+      .setups = setups,
+      .bench = bench,
+      .newGame = {"gmc", {}},
+      .kinds = {{"Label1", kLineTaken}, {"Label2", kCircleTaken}},
+      .kindInPlay = [](Form& form) { return onLines(form) ? 0U : 1U; },
+      .taken =
+          [](Form& form, size_t kind, int n) {
+            return numberOf(form, kind == 0 ? "lineowner" : "celltaken", {n}) != 0;
+          },
+      .finished = [](Form& form) { return numberOf(form, "gameover") == 1; },
+      .points = shownPoints,
+      .scoresDisagree = scoresDisagree,
   };
-  d.finished = [](Form& form) { return numberOf(form, "gameover") == 1; };
-  d.points = points;
-  d.scoresDisagree = scoresDisagree;
-  return d;
 }
 
 }  // namespace vrask::triangular
