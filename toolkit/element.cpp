@@ -71,7 +71,10 @@ std::optional<Value> Element::get(std::string_view property, std::optional<int> 
     if (property == "Width") return num(Width);
     return num(Height);
   }
-  if (!has(kind, property) && property != "ToolTipText" && property != "FontSize") {
+  // A shape's back colour and style are read, though a dump leaves them out:
+  // only some boards paint a shape's inside with them.
+  bool shapeBack = kind == Kind::Shape && (property == "BackColor" || property == "BackStyle");
+  if (!has(kind, property) && !shapeBack && property != "ToolTipText" && property != "FontSize") {
     return std::nullopt;
   }
   if (property == "Caption") return Value{Caption};
@@ -97,9 +100,8 @@ std::optional<Value> Element::get(std::string_view property, std::optional<int> 
 
 const std::vector<std::string_view>& Element::stateProperties(Kind kind) {
   static const std::vector<std::string_view> line{"BorderWidth", "BorderColor", "Visible"};
-  static const std::vector<std::string_view> shape{"FillColor", "FillStyle",   "BackColor",
-                                                   "BackStyle", "BorderColor", "BorderWidth",
-                                                   "Shape",     "Visible"};
+  static const std::vector<std::string_view> shape{"FillColor",   "FillStyle", "BorderColor",
+                                                   "BorderWidth", "Shape",     "Visible"};
   static const std::vector<std::string_view> label{"Caption",   "ForeColor", "BackColor",
                                                    "BackStyle", "Visible",   "Enabled"};
   static const std::vector<std::string_view> menu{"Caption", "Checked", "Enabled", "Visible"};

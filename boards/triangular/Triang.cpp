@@ -135,8 +135,9 @@ void Triang::registerHandlers() {
       {"Label1_Click", &Triang::Label1_Click},  {"Label2_Click", &Triang::Label2_Click},
       {"Label133_Click", &Triang::szmen_Click}, {"szmen_Click", &Triang::szmen_Click},
       {"game_Click", &Triang::game_Click},      {"ip_Click", &Triang::ip_Click}};
-  for (auto [name, handler] : kIndexed) {
-    handleIndexed(name, [this, handler](int i) { (this->*handler)(i); });
+  for (const auto& entry : kIndexed) {
+    Indexed handler = entry.second;
+    handleIndexed(entry.first, [this, handler](int i) { (this->*handler)(i); });
   }
   handleIndexed("ver_Click", [this](int) { ver_Click(); });
   for (const char* name : {"gmc_Click", "Command1_Click", "Command7_Click"}) {
