@@ -45,6 +45,13 @@ void TurnFlow::showTurn(Side next) {
   if (redTurn_ != nullptr) redTurn_->Visible = next == Side::Red;
 }
 
+Side TurnFlow::passLineTurn(int& redNext) {
+  Side mover = redNext == 1 ? Side::Red : Side::Blue;
+  redNext = mover == Side::Red ? 0 : 1;
+  showTurn(mover == Side::Red ? Side::Blue : Side::Red);
+  return mover;
+}
+
 void TurnFlow::addPoints(Side side, int points) {
   score(side).Caption = std::to_string(this->points(side) + points);
 }

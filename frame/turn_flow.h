@@ -52,6 +52,10 @@ class TurnFlow {
   int moverColour() const;
   // "Your turn" over `next` alone.
   void showTurn(Side next);
+  // A line drawn in a line game by the side `redNext` names (Red at 1): the
+  // flag turns over to the other side, whose "Your turn" shows. The side that
+  // draws is returned.
+  Side passLineTurn(int& redNext);
 
   // --- points ---------------------------------------------------------------
   void addPoints(Side side, int points);
