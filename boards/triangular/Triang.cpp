@@ -83,10 +83,8 @@ void Triang::addWorkingElements() {
 
 void Triang::addMenus() {
   // A second New under the round list, where the rounds are read.
-  Place rounds = panel_->roundList();
-  placed(add("Command7", Kind::Button), rounds.left, lay::kNewRoundTop, lay::kNewRoundWidth,
-         lay::kNewRoundHeight)
-      .Caption = "New game";
+  placed(add("Command7", Kind::Button), lay::newRoundUnder(panel_->roundList())).Caption =
+      "New game";
   addGamesMenu();
   addOptionsMenu(
       *this, [this](bool on) { shgrid_Click(on); }, [this] { Command6_Click(); },

@@ -53,7 +53,7 @@ void Triang::drawSafeLine() {
 // move, it closes the sizes.
 void Triang::drawComputerLine(int line) {
   showSizeControls(false);
-  ln1(line).BorderWidth = kDrawn;
+  ln1(line).BorderWidth = kMarkedWidth;
   if (bubbleland()) bbland(line);
   ln1(line).BorderColor = color::Yellow;
   flow_->computerPause();

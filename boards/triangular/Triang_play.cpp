@@ -20,7 +20,7 @@ void Triang::Label1_Click(int line) {
     return;
   }
   flow_->showLastMove(line);
-  ln1(line).BorderWidth = kDrawn;
+  ln1(line).BorderWidth = kMarkedWidth;
 
   int colour = passLineTurn();
 
@@ -37,14 +37,11 @@ void Triang::Label1_Click(int line) {
   checkwins();
 }
 
-// The side `whosnext` names draws the line (Red at 1) with its mark, and the
-// turn goes over to the other side.
+// The side `whosnext` names draws the line with its mark and its colour.
 int Triang::passLineTurn() {
-  bool redMoves = whosnext == 1;
-  whosnext = redMoves ? 0 : 1;
-  mark = redMoves ? kRedMark : kBlueMark;
-  flow_->showTurn(redMoves ? Side::Blue : Side::Red);
-  return redMoves ? color::Red : color::Blue;
+  Side mover = flow_->passLineTurn(whosnext);
+  mark = mover == Side::Red ? kRedMark : kBlueMark;
+  return mover == Side::Red ? color::Red : color::Blue;
 }
 
 void Triang::markSides(int line, int mark) {
@@ -91,7 +88,7 @@ void Triang::paintExtension(int cell, int colour) {
 }
 
 void Triang::paintLine(int line, int colour) {
-  ln1(line).BorderWidth = kDrawn;
+  ln1(line).BorderWidth = kMarkedWidth;
   ln1(line).BorderColor = colour;
 }
 
@@ -110,7 +107,7 @@ void Triang::Command6_Click() {
 }
 
 bool Triang::drawn(int line) const {
-  return (*board_.lines)[line].BorderWidth == kDrawn;
+  return (*board_.lines)[line].BorderWidth == kMarkedWidth;
 }
 
 }  // namespace vrask

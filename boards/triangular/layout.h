@@ -7,15 +7,14 @@
 
 namespace vrask::triangular::layout {
 
-// The form: the hexagon on the left, the side panel on the right.
-inline constexpr double kFormWidth = 17700;
-inline constexpr double kFormHeight = 10080;
-inline constexpr double kSidePanelLeft = 10380;
+// The form: the hexagon on the left, the side panel on the right from
+// kSidePanelLeft.
+inline constexpr double kFormWidth = 17700, kFormHeight = 10080, kSidePanelLeft = 10380;
 
 // A second New under the round list, and the keypad moved down to make room.
-inline constexpr double kNewRoundTop = 3240;
-inline constexpr double kNewRoundWidth = 1650;
-inline constexpr double kNewRoundHeight = 390;
+inline Rect newRoundUnder(Place rounds) {
+  return {rounds.left, 3240, 1650, 390};
+}
 inline Place keypadUnder(Place keypad) {
   return {keypad.left, keypad.top + 300};
 }
