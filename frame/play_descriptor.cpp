@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "frame/helpers.h"
 #include "toolkit/form.h"
 
 namespace vrask {
@@ -16,6 +17,11 @@ double numberOf(Form& form, const std::string& variable, const std::vector<int>&
   Value v = form.variables().at(variable).get(indexes);
   if (const double* d = std::get_if<double>(&v)) return *d;
   throw std::out_of_range("variable " + variable + " is not a number");
+}
+
+std::pair<int, int> shownPoints(Form& form) {
+  return {static_cast<int>(Val(elementOf(form, {"Label5", 0}).Caption)),
+          static_cast<int>(Val(elementOf(form, {"Label6", {}}).Caption))};
 }
 
 }  // namespace vrask

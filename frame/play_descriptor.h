@@ -90,5 +90,8 @@ struct PlayDescriptor {
 struct Element;
 Element& elementOf(Form& form, const Choice& choice);
 double numberOf(Form& form, const std::string& variable, const std::vector<int>& indexes = {});
+// The points of Blue and Red as the captions of `Label5(0)` and `Label6` show
+// them.
+std::pair<int, int> shownPoints(Form& form);
 
 }  // namespace vrask

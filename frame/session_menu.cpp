@@ -1,5 +1,7 @@
 #include "frame/session_menu.h"
 
+#include <array>
+
 #include <filesystem>
 #include <system_error>
 
@@ -47,6 +49,34 @@ void addOnlineEntries(Form& form, const std::string& parentMenu) {
   form.handle("setserv_Click", notice);
   form.addMenu("setclient", parentMenu, "Join a game (connect to other computer)");
   form.handle("setclient_Click", notice);
+}
+
+ElementArray& addPlayerEntries(Form& form, const std::string& parentMenu) {
+  static constexpr std::array<const char*, 4> kCaptions{
+      "1 player verus the computer", "2 Players", "3 Players", "2 Players versus the computer"};
+  ElementArray& ip = form.addMenuArray("ip", parentMenu, 0, 3);
+  for (Element& entry : ip) {
+    entry.Caption = kCaptions.at(static_cast<size_t>(entry.index));
+    entry.Visible = entry.index <= 1;
+  }
+  ip[0].Checked = true;
+  return ip;
+}
+
+ElementArray& addWorldEntries(Form& form, const std::string& parentMenu) {
+  ElementArray& ver = form.addMenuArray("ver", parentMenu, 1, 2);
+  ver[1].Caption = "Flatland";
+  ver[2].Caption = "Bubbleland";
+  ver[1].Checked = true;
+  form.addMenu("ksep", parentMenu, "-");
+  return ver;
+}
+
+void addHelpAboutExit(Form& form) {
+  form.addMenu("hlp", "", "Help");
+  addHelpEntry(form, "rh", "hlp");
+  addAboutEntry(form, "abt", "hlp");
+  addExitEntry(form, "");
 }
 
 }  // namespace vrask

@@ -7,6 +7,7 @@
 
 namespace vrask {
 
+class ElementArray;
 class Form;
 
 // The help page, looked for in the current directory.
@@ -27,6 +28,19 @@ void addAboutEntry(Form& form, const std::string& name, const std::string& paren
 // Exit (`ex`): the program ends at once, no question asked. Ctrl+Q on every
 // board.
 void addExitEntry(Form& form, const std::string& parentMenu, const std::string& caption = "Exit");
+
+// The players `ip(0..3)` under `parentMenu`: "1 player verus the computer"
+// (ticked) and "2 Players"; "3 Players" and "2 Players versus the computer"
+// are there but not shown.
+ElementArray& addPlayerEntries(Form& form, const std::string& parentMenu);
+
+// The worlds `ver(1)` "Flatland" (ticked) and `ver(2)` "Bubbleland" under
+// `parentMenu`, and a separator `ksep` after them.
+ElementArray& addWorldEntries(Form& form, const std::string& parentMenu);
+
+// The menu `hlp` "Help" with help `rh` and about `abt`, then Exit on the menu
+// bar. Help and About stay open during a game, and so does Exit.
+void addHelpAboutExit(Form& form);
 
 // `setserv` and `setclient`: online play is not in the program; each shows a
 // notice that says so and points to the keypad.

@@ -45,6 +45,13 @@ void TurnFlow::showTurn(Side next) {
   if (redTurn_ != nullptr) redTurn_->Visible = next == Side::Red;
 }
 
+Side TurnFlow::passLineTurn(int& redNext) {
+  Side mover = redNext == 1 ? Side::Red : Side::Blue;
+  redNext = mover == Side::Red ? 0 : 1;
+  showTurn(mover == Side::Red ? Side::Blue : Side::Red);
+  return mover;
+}
+
 void TurnFlow::addPoints(Side side, int points) {
   score(side).Caption = std::to_string(this->points(side) + points);
 }
@@ -70,14 +77,14 @@ void TurnFlow::setGameMenusEnabled(bool on) {
   for (Element* menu : gameMenus_) menu->Enabled = on;
 }
 
-void TurnFlow::flash(ElementArray& drawn, const std::vector<int>& lines, double gap) {
+void TurnFlow::flash(ElementArray& drawn, const std::vector<int>& lines, double gap, double hold) {
   std::vector<int> colours;
   for (int line : lines) {
     colours.push_back(drawn[line].BorderColor);
     drawn[line].BorderColor = color::Yellow;
   }
   form_.Refresh();
-  form_.wait(kComputerPause);
+  form_.wait(hold);
   for (size_t i = 0; i < lines.size(); ++i) drawn[lines[i]].BorderColor = colours[i];
   form_.Refresh();
   form_.wait(gap);

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "frame/helpers.h"
 #include "frame/play_descriptor.h"
 
 namespace vrask {
@@ -51,6 +52,10 @@ class TurnFlow {
   int moverColour() const;
   // "Your turn" over `next` alone.
   void showTurn(Side next);
+  // A line drawn in a line game by the side `redNext` names (Red at 1): the
+  // flag turns over to the other side, whose "Your turn" shows. The side that
+  // draws is returned.
+  Side passLineTurn(int& redNext);
 
   // --- points ---------------------------------------------------------------
   void addPoints(Side side, int points);
@@ -64,9 +69,11 @@ class TurnFlow {
 
   void setGameMenusEnabled(bool on);
 
-  // Each line of a scored cell shows in yellow for the computer's pause, then
-  // its own colour again, then `gap` seconds before the next.
-  void flash(ElementArray& drawn, const std::vector<int>& lines, double gap);
+  // Each line of a scored cell shows in yellow for `hold` seconds (the
+  // computer's pause unless the board says otherwise), then its own colour
+  // again, then `gap` seconds before the next.
+  void flash(ElementArray& drawn, const std::vector<int>& lines, double gap,
+             double hold = kComputerPause);
 
   // The end of a game: its row, the subtotal and a blank row in the round
   // list, "GAME" "OVER" shown, New the default button with the focus, the

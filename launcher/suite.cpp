@@ -6,6 +6,8 @@
 #include "boards/hypercube/play.h"
 #include "boards/quennel/Quennel.h"
 #include "boards/quennel/play.h"
+#include "boards/triangular/Triang.h"
+#include "boards/triangular/play.h"
 #include "boards/zorvex/play.h"
 #include "boards/zorvex/zorvex.h"
 #include "frame/about_box.h"
@@ -27,6 +29,7 @@ Program::Factory factory() {
 const std::vector<Board>& boards() {
   static const std::vector<Board> list{
       {factory<Form1large>(), flatland::play()},
+      {factory<Triang>(), triangular::play()},
       {factory<zorvex>(), cube::play()},
       {factory<form5d2>(), hypercube::play()},
       {factory<Quennel>(), quennel::play()},

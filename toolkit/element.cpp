@@ -71,7 +71,10 @@ std::optional<Value> Element::get(std::string_view property, std::optional<int> 
     if (property == "Width") return num(Width);
     return num(Height);
   }
-  if (!has(kind, property) && property != "ToolTipText" && property != "FontSize") {
+  // A shape's back colour and style are read, though a dump leaves them out:
+  // only some boards paint a shape's inside with them.
+  bool shapeBack = kind == Kind::Shape && (property == "BackColor" || property == "BackStyle");
+  if (!has(kind, property) && !shapeBack && property != "ToolTipText" && property != "FontSize") {
     return std::nullopt;
   }
   if (property == "Caption") return Value{Caption};
@@ -143,6 +146,8 @@ ElementArray::ElementArray(std::string name, Kind kind, int lo, int hi, bool ind
     e.index = indexed ? i : -1;
     e.kind = kind;
     if (kind == Kind::Timer) e.Enabled = false;
+    // A shape is transparent behind its fill until a form makes it opaque.
+    if (kind == Kind::Shape) e.BackStyle = 0;
   }
 }
 

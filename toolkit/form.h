@@ -83,6 +83,19 @@ class Form {
   void varArray(const std::string& name, int lo, int hi, std::function<Value(int)> get);
   void varTable(const std::string& name, std::pair<int, int> rows, std::pair<int, int> cols,
                 std::function<Value(int, int)> get);
+  // A table the form keeps, read as `name(i)` for i in lo..hi, stored at i.
+  template <typename Table>
+  void varArrayOf(const std::string& name, int lo, int hi, const Table& table) {
+    varArray(name, lo, hi, [&table](int i) { return num(table.at(static_cast<size_t>(i))); });
+  }
+  // A table of rows, read as `name(i, j)`; column j is stored at j - shift.
+  template <typename Table>
+  void varTableOf(const std::string& name, std::pair<int, int> rows, std::pair<int, int> cols,
+                  const Table& table, int shift = 0) {
+    varTable(name, rows, cols, [&table, shift](int i, int j) {
+      return num(table.at(static_cast<size_t>(i)).at(static_cast<size_t>(j - shift)));
+    });
+  }
   const std::map<std::string, Variable>& variables() const { return vars_; }
 
   // The control that has the keyboard focus now, by display name, or "" when

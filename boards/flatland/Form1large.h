@@ -20,19 +20,12 @@
 
 #include "boards/flatland/computer.h"
 #include "boards/flatland/tables.h"
-#include "frame/turn_flow.h"
+#include "frame/board_frame.h"
 #include "toolkit/form.h"
 
 namespace vrask {
 
-class GridSwitch;
-class Keypad;
-class OtherGames;
-class RoundList;
-class SuddenDeath;
-class TurnFlow;
-
-class Form1large : public Form {
+class Form1large : public Form, private BoardFrame {
  public:
   explicit Form1large(Program& program);
   ~Form1large() override;
@@ -42,18 +35,12 @@ class Form1large : public Form {
   // --- design and load (Form1large.cpp) -----------------------------------
   void addSidePanel();
   void addBoard();
-  void addStatus();
-  void addScores();
-  void addSizeLabels();
   void addWorkingElements();
   void addMenus();
   void addGamesMenu();
-  void addOptionsMenu();
   void addBoardMenu();
-  void addHelpAndExit();
   void registerHandlers();
   void registerVariables();
-  void styleClickTargets();
   void saveDesignColours();
   void clearCircles();
   void applyBubblelandStart();
@@ -109,8 +96,6 @@ class Form1large : public Form {
   Element& Label1(int i) { return (*Label1_)[i]; }
   Element& Shape1(int i) { return (*Shape1_)[i]; }
   Element& Label2(int i) { return (*Label2_)[i]; }
-  Element& Label4(int i) { return (*Label4_)[i]; }
-  Element& Label5(int i) { return (*Label5_)[i]; }
   Element& game(int i) { return (*game_)[i]; }
   Element& ip(int i) { return (*ip_)[i]; }
   Element& ver(int i) { return (*ver_)[i]; }
@@ -121,33 +106,17 @@ class Form1large : public Form {
   ElementArray* Label1_ = nullptr;
   ElementArray* Shape1_ = nullptr;
   ElementArray* Label2_ = nullptr;
-  ElementArray* Label4_ = nullptr;
-  ElementArray* Label5_ = nullptr;
-  ElementArray* Label13_ = nullptr;
-  ElementArray* Label15_ = nullptr;
   ElementArray* game_ = nullptr;
-  ElementArray* ip_ = nullptr;
   ElementArray* ver_ = nullptr;
   ElementArray* sizsq_ = nullptr;
-  Element* Label6 = nullptr;
   Element* Label8 = nullptr;
   Element* Label12 = nullptr;
-  Element* Label14 = nullptr;  // the heading of the size labels
   Element* Label18 = nullptr;
   Element* Label33 = nullptr;
   Element* Label36 = nullptr;
   Element* List1 = nullptr;
-  Element* Command1 = nullptr;
   Element* sks = nullptr;
-  Element* ks = nullptr;
   Element* kda = nullptr;
-
-  std::unique_ptr<SuddenDeath> sd_;
-  std::unique_ptr<GridSwitch> grid_;
-  std::unique_ptr<Keypad> keypad_;
-  std::unique_ptr<OtherGames> otherGames_;
-  std::unique_ptr<RoundList> roundList_;
-  std::unique_ptr<TurnFlow> flow_;
 
   // --- the game -------------------------------------------------------------
   int gamemode = flatland::SuperVraskPlus;

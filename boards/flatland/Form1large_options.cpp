@@ -7,6 +7,7 @@
 #include "frame/helpers.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
+#include "frame/side_panel.h"
 #include "frame/sudden_death.h"
 #include "frame/turn_flow.h"
 #include "launcher/shared_state.h"
@@ -68,9 +69,8 @@ void Form1large::sizsq_Click(int n) {
   Label12->Caption = movesLeft(gamemode == Ombrel ? lineCount(n) : n * n);
 
   for (Element& entry : *sizsq_) entry.Checked = false;
-  for (Element& label : *Label13_) label.BackColor = color::ButtonFace;
   (*sizsq_)[n].Checked = true;
-  (*Label13_)[n].BackColor = kSizeChosen;
+  panel_->markSize(n);
 
   hideBeyondSize(n);
 
@@ -194,8 +194,7 @@ void Form1large::resetBoard() {
 // The sizes can be changed only before the first move; their heading goes
 // and comes with them.
 void Form1large::showSizeLabels(bool on) {
-  for (Element& label : *Label13_) label.Visible = on;
-  Label14->Visible = on;
+  panel_->showSizeButtons(on);
 }
 
 int Form1large::checkedSize() const {

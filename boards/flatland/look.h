@@ -7,7 +7,5 @@ namespace vrask::flatland {
 inline constexpr int kOrange = 16576;
 // The rim of a circle whose square has been whole in one colour.
 inline constexpr int kPurple = 12583104;
-// The size label of the board's size.
-inline constexpr int kSizeChosen = 16777088;
 
 }  // namespace vrask::flatland

@@ -102,11 +102,6 @@ bool afterVraskMove(Form& form) {
   return vraskGame(form) && elementOf(form, {"Label33", {}}).Caption == "Vrask!";
 }
 
-std::pair<int, int> shownPoints(Form& form) {
-  return {static_cast<int>(Val(elementOf(form, {"Label5", 0}).Caption)),
-          static_cast<int>(Val(elementOf(form, {"Label6", {}}).Caption))};
-}
-
 std::pair<int, int> points(Form& form) {
   if (!afterVraskMove(form)) return shownPoints(form);
   BoardCount count = countBoard(form);

@@ -53,8 +53,8 @@ TEST_F(FrameFixture, KeypadEntryLeavesAGridThatWasOnAndTheEnterKeyPlaysTheNumber
 }
 
 TEST_F(FrameFixture, OtherGamesOffersOnlyBuiltBoardsAndCarriesOnlyTheWallLevel) {
-  EXPECT_FALSE(el("cbm", 2).Enabled);
-  EXPECT_EQ(el("cbm", 2).ToolTipText, "Not yet available");
+  EXPECT_FALSE(el("fcbm", 12).Enabled);
+  EXPECT_EQ(el("fcbm", 12).ToolTipText, "Not yet available");
   EXPECT_EQ(event("fcbm", 12), Program::Outcome::Ignored);
   event("zcbm", 9);
   ASSERT_EQ(board().name(), "vraskthewall");

@@ -114,13 +114,22 @@ void ElementPainter::paintShape(const Element& e) {
   // The border is drawn inside the shape's box.
   double half = border.widthF() / 2;
   box.adjust(half, half, -half, -half);
+  auto draw = [&] {
+    if (e.Shape == Oval || e.Shape == Circle) {
+      painter_.drawEllipse(box);
+    } else {
+      painter_.drawRect(box);
+    }
+  };
+  // An opaque shape shows its back colour inside the border, under the fill.
+  if (e.BackStyle != 0) {
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(toQColor(e.BackColor, palette_));
+    draw();
+  }
   painter_.setPen(border);
   painter_.setBrush(e.FillStyle == 0 ? QBrush(toQColor(e.FillColor, palette_)) : Qt::NoBrush);
-  if (e.Shape == Oval || e.Shape == Circle) {
-    painter_.drawEllipse(box);
-  } else {
-    painter_.drawRect(box);
-  }
+  draw();
 }
 
 void ElementPainter::paintLabel(const Element& e) {
