@@ -1,0 +1,309 @@
+#include "boards/wall/vraskthewall.h"
+
+#include <algorithm>
+#include <array>
+
+#include "boards/wall/captions.h"
+#include "boards/wall/layout.h"
+#include "boards/wall/look.h"
+#include "frame/grid_switch.h"
+#include "frame/keypad.h"
+#include "frame/other_games.h"
+#include "frame/round_list.h"
+#include "frame/session_menu.h"
+#include "launcher/shared_state.h"
+
+namespace vrask {
+
+using namespace wall;
+namespace lay = wall::layout;
+
+namespace {
+
+// A dark slate round a wall of pale stone: Blue, Red, Black, magenta and the
+// computer's yellow all stand out on the stone.
+constexpr int kBoardColour = 0x403830;
+constexpr int kPanelColour = 0xF0E4D8;
+constexpr int kFrontColour = 0xC0D0D8;
+constexpr int kTopColour = 0xDCE6EC;
+constexpr int kEndColour = 0xA0AEB8;
+constexpr int kFrontEdge = 0x505050;
+constexpr int kBackEdge = 0x8C9296;
+constexpr int kCircleFill = color::White;
+constexpr int kNumberColour = 0x302820;
+
+constexpr std::array<const char*, 4> kPlayerCaptions{"1 player verus the computer", "2 Players",
+                                                     "3 Players", "2 Players versus the computer"};
+
+Element& placed(Element& e, const lay::Rect& r) {
+  e.Left = r.left;
+  e.Top = r.top;
+  e.Width = r.width;
+  e.Height = r.height;
+  return e;
+}
+
+Element& text(Element& e, const std::string& caption, double fontSize = 10, bool bold = false) {
+  e.Caption = caption;
+  e.FontSize = fontSize;
+  e.FontBold = bold;
+  e.BackStyle = 0;
+  return e;
+}
+
+// The lines of the front are 1..30 and 97..126; the rest lie behind it or
+// run from front to back.
+bool onFront(int line) {
+  auto ends = endsOf(line);
+  return ends[0].depth == 0 && ends[1].depth == 0;
+}
+
+}  // namespace
+
+vraskthewall::vraskthewall(Program& program) : Form(program, "vraskthewall") {}
+
+vraskthewall::~vraskthewall() = default;
+
+// The design first, in paint order, then the load: the wall the launcher
+// asked for, the first game of the list, Blue to move.
+void vraskthewall::Form_Load() {
+  Caption = shared().product_title;
+  Width = lay::kFormWidth;
+  Height = lay::kFormHeight;
+  openAboveCentre = 300;
+  BackColor = kBoardColour;
+  placed(add("Picture2", Kind::Picture), lay::kSidePanel).BackColor = kPanelColour;
+  addBoard();
+  addStatus();
+  addScores();
+  addLevelButtons();
+  addMenus();
+  roundList_ = std::make_unique<RoundList>(
+      *this, RoundListConfig{.list = "List4", .firstRow = "", .afterWinner = "\t\t",
+                             .place = lay::kRoundList});
+  registerHandlers();
+  registerVariables();
+
+  celllines = startwall();
+  game_Click(Classic);
+  bd_Click(std::clamp(shared().wall_level, 1, kLevels));
+  Label33->ForeColor = color::Blue;
+  Label33->Caption = kClickACircle;
+  showTurn(true);
+}
+
+void vraskthewall::addBoard() {
+  wallshade = &add("wallshade", Kind::Picture);
+  wallshade->BackColor = kBoardColour;
+  wallfront = &add("wallfront", Kind::Shape);
+  wallfront->FillStyle = 0;
+  wallfront->FillColor = kFrontColour;
+  wallfront->BorderColor = kFrontColour;
+
+  a_ = &addArray("a", Kind::Line, 1, kLines);
+  for (Element& edge : *a_) edge.BorderColor = onFront(edge.index) ? kFrontEdge : kBackEdge;
+  Line3_ = &addArray("Line3", Kind::Line, 1, kLines);
+  for (Element& line : *Line3_) {
+    line.Visible = false;
+    line.BorderColor = color::Black;
+  }
+  Shape1_ = &addArray("Shape1", Kind::Shape, 10, 10 * kSquares);
+  for (Element& circle : *Shape1_) {
+    circle.Visible = circle.index % 10 == 0;
+    circle.Shape = Circle;
+    circle.FillStyle = 0;
+    circle.FillColor = kCircleFill;
+    circle.BorderColor = color::WindowText;
+  }
+  Label9_ = &addArray("Label9", Kind::Label, 1, kSquares);
+  for (Element& target : *Label9_) {
+    target.BackStyle = 0;
+    target.Alignment = AlignCenter;
+    target.ForeColor = kNumberColour;
+    target.FontBold = true;
+  }
+}
+
+// Where the wall of level `bd` stands: every level fills the same room.
+void vraskthewall::placeWall(int bd) {
+  placed(*wallshade, {lay::kBoardLeft, lay::kBoardTop, lay::kBoardSpan, lay::kBoardSpan});
+  wallshade->Cls();
+  auto shade = [&](const std::vector<lay::Segment>& strokes, int colour) {
+    for (const lay::Segment& s : strokes) {
+      wallshade->drawing.push_back({s.x1 - lay::kBoardLeft, s.y1 - lay::kBoardTop,
+                                    s.x2 - lay::kBoardLeft, s.y2 - lay::kBoardTop, colour});
+    }
+  };
+  shade(lay::topStrokes(bd), kTopColour);
+  shade(lay::endStrokes(bd), kEndColour);
+  placed(*wallfront, lay::frontOf(bd));
+
+  std::array<bool, kLines + 1> onThisWall{};
+  for (int s = 1; s <= kSquares; ++s) {
+    if (!onWall(s, bd)) continue;
+    for (int k = 1; k <= 4; ++k) onThisWall.at(celllines.at(s).at(k)) = true;
+  }
+  for (int line = 1; line <= kLines; ++line) {
+    lay::Segment s = lay::lineAt(line, bd);
+    for (Element* e : {&(*a_)[line], &Line3(line)}) {
+      e->X1 = s.x1;
+      e->Y1 = s.y1;
+      e->X2 = s.x2;
+      e->Y2 = s.y2;
+    }
+    (*a_)[line].Visible = onThisWall.at(line);
+  }
+  for (int s = 1; s <= kSquares; ++s) {
+    placed(circleOf(s), lay::circleAt(s, bd));
+    placed(Label9(s), lay::targetAt(s, bd)).FontSize = lay::numberSizeOf(bd);
+  }
+}
+
+void vraskthewall::addStatus() {
+  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 11, true);
+  Label33 = &text(placed(add("Label33", Kind::Label), lay::kStatus), "", 11, true);
+  // Its colour is the mover's, so it stands on white.
+  Label33->BackStyle = 1;
+  Label33->BackColor = color::White;
+  Label33->Alignment = AlignCenter;
+  Label34 = &text(placed(add("Label34", Kind::Label), lay::kMovesLeftHeading), kMovesLeftHeading);
+  Label35 = &text(placed(add("Label35", Kind::Label), lay::kMovesLeft), "");
+  Label12 = &text(placed(add("Label12", Kind::Label), lay::kLastMove), kLastMove);
+}
+
+// Blue's column on the left, Red's on the right: a heading, the points, and
+// the flag of the side to move (`Label4` Blue's, `Label3` Red's).
+void vraskthewall::addScores() {
+  ElementArray& headings = addArray("Label10", Kind::Label, 0, 1);
+  Label5 = &add("Label5", Kind::Label);
+  Label6 = &add("Label6", Kind::Label);
+  Label4 = &add("Label4", Kind::Label);
+  Label3 = &add("Label3", Kind::Label);
+  struct Column {
+    Element& heading;
+    Element& points;
+    Element& flag;
+    const char* name;
+    int colour;
+    double left;
+  };
+  std::array<Column, 2> columns{
+      {{headings[0], *Label5, *Label4, "Blue", color::Blue, lay::kColumnLeft},
+       {headings[1], *Label6, *Label3, "Red", color::Red, lay::kRedScoreLeft}}};
+  for (Column& column : columns) {
+    placed(text(column.heading, column.name, 10, true),
+           {column.left, lay::kScoreHeadingTop, lay::kScoreWidth, lay::kLineHeight});
+    placed(text(column.points, "0", 28, true),
+           {column.left, lay::kScoreTop, lay::kScoreWidth, lay::kScoreHeight});
+    placed(text(column.flag, "Your turn", 10, true),
+           {column.left, lay::kYourTurnTop, lay::kScoreWidth, lay::kLineHeight});
+    for (Element* e : {&column.heading, &column.points, &column.flag}) {
+      e->ForeColor = column.colour;
+      e->Alignment = AlignCenter;
+    }
+  }
+}
+
+// The buttons of the three walls, "3", "4" and "5" cubes a side, with
+// "GAME" "OVER" below them.
+void vraskthewall::addLevelButtons() {
+  Label14 = &text(placed(add("Label14", Kind::Label), lay::kLevelHeading), "Wall size");
+  Label13_ = &addArray("Label13", Kind::Label, 1, kLevels);
+  for (Element& button : *Label13_) {
+    double left = lay::kColumnLeft + lay::kLevelStep * (button.index - 1);
+    placed(text(button, std::to_string(sideOf(button.index)), 10, true),
+           {left, lay::kLevelTop, lay::kLevelWidth, lay::kLevelHeight});
+    button.BackStyle = 1;
+    button.Alignment = AlignCenter;
+  }
+  Label15_ = &addArray("Label15", Kind::Label, 0, 3);
+  for (Element& label : *Label15_) {
+    int row = label.index / 2;
+    int column = label.index % 2;
+    placed(text(label, column == 0 ? "GAME" : "OVER", 24, true),
+           {lay::kColumnLeft + column * (lay::kColumnWidth - lay::kGameOverWidth),
+            lay::kGameOverTop + row * lay::kGameOverRow, lay::kGameOverWidth, lay::kGameOverRow});
+    label.ForeColor = color::Red;
+    label.Alignment = AlignCenter;
+    label.Visible = false;
+  }
+}
+
+void vraskthewall::addMenus() {
+  addGamesMenu();
+  addMenu("new", "", "&New");
+  addOptionsMenu();
+  otherGames_ = std::make_unique<OtherGames>(
+      *this, OtherGamesNames{.twoD = "cbm", .threeD = "cccbm", .fourD = "ccccbm"});
+  addHelpAndExit();
+}
+
+// The games and, below them, the three walls. Both close with the first
+// move of a game.
+void vraskthewall::addGamesMenu() {
+  zx = &addMenu("zx", "", "Games Menu");
+  game_ = &addMenuArray("game", "zx", 0, static_cast<int>(kGameCaptions.size()) - 1);
+  for (Element& entry : *game_) {
+    entry.Caption = kGameCaptions.at(static_cast<size_t>(entry.index));
+    entry.Visible =
+        std::find(kGameCodes.begin(), kGameCodes.end(), entry.index) != kGameCodes.end();
+  }
+  addMenu("zsep", "zx", "-");
+  bd_ = &addMenuArray("bd", "zx", 1, kLevels);
+  for (Element& entry : *bd_) entry.Caption = kLevelCaptions.at(static_cast<size_t>(entry.index - 1));
+}
+
+void vraskthewall::addOptionsMenu() {
+  xq = &addMenu("xq", "", "Options");
+  ip_ = &addMenuArray("ip", "xq", 0, 3);
+  for (Element& entry : *ip_) {
+    entry.Caption = kPlayerCaptions.at(static_cast<size_t>(entry.index));
+    entry.Visible = entry.index <= 1;
+  }
+  ip(0).Checked = true;
+  addMenu("osep", "xq", "-");
+  hidmov = &addMenu("hidmov", "xq", "Hide non-scoring moves in Vrask games");
+  ch = &addMenu("ch", "xq", "Show number of moves left");
+  ch->Checked = true;
+  grid_ = std::make_unique<GridSwitch>(*this, "xq", [this](bool on) { showNumbers(on); }, "grid");
+  keypad_ = std::make_unique<Keypad>(
+      *this, *grid_, [this] { Command4_Click(); },
+      KeypadConfig{.parentMenu = "xq",
+                   .enterButton = "Command4",
+                   .panel = lay::kKeypad,
+                   .opener = lay::kKeypadOpener});
+  addOnlineEntries(*this, "xq");
+}
+
+void vraskthewall::addHelpAndExit() {
+  addMenu("hlp", "", "Help");
+  addHelpEntry(*this, "rulec", "hlp");
+  addAboutEntry(*this, "abt", "hlp");
+  addExitEntry(*this, "");
+}
+
+void vraskthewall::registerHandlers() {
+  handleIndexed("Label9_Click", [this](int n) { Label9_Click(n); });
+  handleIndexed("Label13_Click", [this](int level) { bd_Click(level); });
+  handleIndexed("bd_Click", [this](int level) { bd_Click(level); });
+  handleIndexed("game_Click", [this](int index) { game_Click(index); });
+  handleIndexed("ip_Click", [this](int i) { ip_Click(i); });
+  handle("ch_Click", [this] { ch_Click(); });
+  handle("hidmov_Click", [this] { hidmov_Click(); });
+  handle("new_Click", [this] { new_Click(); });
+}
+
+void vraskthewall::registerVariables() {
+  var("gamecode", gamecode);
+  var("wallsize", wallsize);
+  var("openerflag", openerflag);
+  var("compbusy", compbusy);
+  var("gameover", gameover);
+  varArray("squaretaken", 1, kSquares,
+           [this](int s) { return num(squaretaken.at(static_cast<size_t>(s))); });
+  varTable("celllines", {1, kSquares}, {1, 4}, [this](int s, int k) {
+    return num(celllines.at(static_cast<size_t>(s)).at(static_cast<size_t>(k)));
+  });
+}
+
+}  // namespace vrask

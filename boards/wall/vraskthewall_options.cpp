@@ -1,0 +1,159 @@
+// The menus of the wall board: games, walls, players, the options, and New.
+#include "boards/wall/captions.h"
+#include "boards/wall/look.h"
+#include "boards/wall/vraskthewall.h"
+#include "frame/grid_switch.h"
+#include "frame/helpers.h"
+#include "frame/keypad.h"
+
+namespace vrask {
+
+using namespace wall;
+
+// A wall is chosen before the first move of a game, from the menu, the
+// buttons or the launcher.
+void vraskthewall::bd_Click(int level) {
+  for (Element& entry : *bd_) entry.Checked = entry.index == level;
+  for (Element& button : *Label13_) {
+    button.BackColor = button.index == level ? kLevelChosen : color::ButtonFace;
+  }
+  wallsize = wall::wallsize(level);
+  Label35->Caption = std::to_string(wallsize);
+  placeWall(level);
+  for (int s = 1; s <= kSquares; ++s) {
+    bool shown = onWall(s, level);
+    circleOf(s).Visible = shown;
+    Label9(s).Visible = shown;
+  }
+  showNumbers(grid_->on());
+}
+
+void vraskthewall::game_Click(int index) {
+  gamecode = index;
+  for (Element& entry : *game_) entry.Checked = entry.index == index;
+  Label36->Caption = gameLabel(index);
+}
+
+void vraskthewall::ip_Click(int i) {
+  if (i == 0) {
+    ip(0).Checked = true;
+    ip(1).Checked = false;
+    keypad_->close();
+  } else if (i == 1) {
+    // Two players may be far apart: the keypad carries their moves.
+    ip(1).Checked = true;
+    ip(0).Checked = false;
+    keypad_->open();
+  }
+}
+
+void vraskthewall::ch_Click() {
+  ch->Checked = !ch->Checked;
+  Label34->Visible = ch->Checked;
+  Label35->Visible = ch->Checked;
+}
+
+// The tick hides the circles of moves that score for nobody from the next
+// move on. Taking it off brings them back at once: a player who turns the
+// option off expects to see the whole wall again.
+void vraskthewall::hidmov_Click() {
+  hidmov->Checked = !hidmov->Checked;
+  if (hidmov->Checked) return;
+  for (int s = 1; s <= kSquares; ++s) {
+    if (onWallNow(s)) circleOf(s).Visible = true;
+  }
+}
+
+// The numbers stand on the circles still to be played: a played circle's
+// number is blanked by the move.
+void vraskthewall::showNumbers(bool on) {
+  for (Element& target : *Label9_) {
+    bool open = circleOf(target.index).BorderWidth != kDrawn;
+    target.Caption = on && open ? std::to_string(target.index) : "";
+  }
+}
+
+// New: the next game of the round list, on the wall the menu has checked.
+// It waits for the computer to finish its move.
+void vraskthewall::new_Click() {
+  if (compbusy == 1) return;
+  gameover = 0;
+  Label12->Caption = kLastMove;
+  for (Element& label : *Label15_) label.Visible = false;
+  showLevelButtons(true);
+  squaretaken = {};
+  if (keypad_->on()) {
+    keypad_->text().Text.clear();
+    keypad_->panel().Visible = true;
+    keypad_->focusText();
+  }
+  clearBoard();
+  setMenusEnabled(true);
+  Label5->Caption = "0";
+  Label6->Caption = "0";
+  Label33->ForeColor = color::Blue;
+  Label33->Caption = kClickACircle;
+  Label35->Caption = std::to_string(wallsize);
+  showTurn(true);
+  openGame();
+}
+
+// Every circle back on the wall of the checked level, open, and every line
+// free and hidden.
+void vraskthewall::clearBoard() {
+  for (int s = 1; s <= kSquares; ++s) {
+    circleOf(s).BorderColor = color::WindowText;
+    circleOf(s).BorderWidth = kFree;
+  }
+  for (Element& line : *Line3_) {
+    line.Visible = false;
+    line.BorderWidth = kFree;
+    line.BorderColor = color::Black;
+  }
+  bd_Click(checkedLevel());
+}
+
+// Who opens turns over with every New. When Red opens against the computer,
+// the computer plays a square drawn at random, as a move of the two-player
+// game, so that the turn comes back to Blue.
+void vraskthewall::openGame() {
+  if (openerflag != 0) {
+    openerflag = 0;
+    return;
+  }
+  openerflag = 1;
+  Label33->ForeColor = color::Red;
+  Label33->Caption = kRedsTurn;
+  showTurn(false);
+  if (!ip(0).Checked) return;
+  int s = openingSquare([this](int n) { return pick(n); }, [this](int t) { return onWallNow(t); });
+  ip(0).Checked = false;
+  Label9_Click(s);
+  ip(0).Checked = true;
+}
+
+void vraskthewall::setMenusEnabled(bool on) {
+  zx->Enabled = on;
+  xq->Enabled = on;
+}
+
+// The wall can be changed only before the first move; the heading goes and
+// comes with the buttons.
+void vraskthewall::showLevelButtons(bool on) {
+  for (Element& button : *Label13_) button.Visible = on;
+  Label14->Visible = on;
+}
+
+void vraskthewall::showTurn(bool blue) {
+  Label4->Visible = blue;
+  Label3->Visible = !blue;
+}
+
+int vraskthewall::checkedLevel() const {
+  for (const Element& entry : *bd_) {
+    if (entry.Checked) return entry.index;
+  }
+  return 1;
+}
+
+}  // namespace vrask
