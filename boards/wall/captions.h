@@ -15,18 +15,17 @@ inline constexpr const char* kMovesLeftHeading = "Moves left:";
 
 // The list of games has eleven slots; those without a caption here are
 // separators. Only the four games of `kGameCodes` are shown.
-inline constexpr std::array<const char*, 11> kGameCaptions{
-    "&Ombrel",
-    "&Dorvel",
-    "&Zorvex",
-    "-",
-    "Vrask  (Classic)",
-    "Vrask  (Set count)",
-    "-",
-    "Super Vrask Plus  (Classic)",
-    "Super Vrask Plus  (Set count)",
-    "-",
-    "Zorvex (Squares)"};
+inline constexpr std::array<const char*, 11> kGameCaptions{"&Ombrel",
+                                                           "&Dorvel",
+                                                           "&Zorvex",
+                                                           "-",
+                                                           "Vrask  (Classic)",
+                                                           "Vrask  (Set count)",
+                                                           "-",
+                                                           "Super Vrask Plus  (Classic)",
+                                                           "Super Vrask Plus  (Set count)",
+                                                           "-",
+                                                           "Zorvex (Squares)"};
 
 // What `Label36` says of each game shown, by `gamecode`.
 inline std::string gameLabel(int gamecode) {
@@ -44,8 +43,8 @@ inline std::string gameLabel(int gamecode) {
 
 // The levels `bd(1..3)` in the menu, and on the buttons `Label13(1..3)` the
 // cubes a side.
-inline constexpr std::array<const char*, 3> kLevelCaptions{
-    "Vrask The Wall", "Vrask a Bigger Wall", "Vrask the Great Wall"};
+inline constexpr std::array<const char*, 3> kLevelCaptions{"Vrask The Wall", "Vrask a Bigger Wall",
+                                                           "Vrask the Great Wall"};
 
 inline std::string movesLeft(int n) {
   return std::to_string(n) + " moves left";

@@ -59,8 +59,9 @@ inline constexpr Rect kSidePanel{9420, 0, kFormWidth - 9420, kFormHeight};
 inline constexpr double kColumnLeft = 9600;
 inline constexpr double kColumnWidth = 3300;
 inline constexpr double kLineHeight = 285;
-inline constexpr Rect kGameName{kColumnLeft, 240, kColumnWidth, 330};
-inline constexpr Rect kStatus{kColumnLeft, 630, kColumnWidth, 600};
+// The game's name takes two rows: "Game = Super Vrask Plus (Set count)".
+inline constexpr Rect kGameName{kColumnLeft, 180, kColumnWidth, 540};
+inline constexpr Rect kStatus{kColumnLeft, 780, kColumnWidth, 360};
 inline constexpr double kScoreWidth = 1575;
 inline constexpr double kRedScoreLeft = kColumnLeft + kColumnWidth - kScoreWidth;
 inline constexpr double kScoreHeadingTop = 1380;

@@ -75,8 +75,8 @@ CellLines startwall() {
     auto [side, a, j] = faceOf(s);
     switch (side) {
       case Side::Front:
-        celllines[s] = {0, upright(1, a, j), levelLine(kFirstFrontLevel, a, j), upright(1, a, j + 1),
-                        levelLine(kFirstFrontLevel, a + 1, j)};
+        celllines[s] = {0, upright(1, a, j), levelLine(kFirstFrontLevel, a, j),
+                        upright(1, a, j + 1), levelLine(kFirstFrontLevel, a + 1, j)};
         break;
       case Side::Back:
         celllines[s] = {0, upright(kFirstBackUpright, a, j), levelLine(kFirstBackLevel, a, j),

@@ -79,8 +79,8 @@ void vraskthewall::Form_Load() {
   addLevelButtons();
   addMenus();
   roundList_ = std::make_unique<RoundList>(
-      *this, RoundListConfig{.list = "List4", .firstRow = "", .afterWinner = "\t\t",
-                             .place = lay::kRoundList});
+      *this, RoundListConfig{
+                 .list = "List4", .firstRow = "", .afterWinner = "\t\t", .place = lay::kRoundList});
   registerHandlers();
   registerVariables();
 
@@ -160,7 +160,7 @@ void vraskthewall::placeWall(int bd) {
 }
 
 void vraskthewall::addStatus() {
-  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 11, true);
+  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 10, true);
   Label33 = &text(placed(add("Label33", Kind::Label), lay::kStatus), "", 11, true);
   // Its colour is the mover's, so it stands on white.
   Label33->BackStyle = 1;
@@ -250,7 +250,8 @@ void vraskthewall::addGamesMenu() {
   }
   addMenu("zsep", "zx", "-");
   bd_ = &addMenuArray("bd", "zx", 1, kLevels);
-  for (Element& entry : *bd_) entry.Caption = kLevelCaptions.at(static_cast<size_t>(entry.index - 1));
+  for (Element& entry : *bd_)
+    entry.Caption = kLevelCaptions.at(static_cast<size_t>(entry.index - 1));
 }
 
 void vraskthewall::addOptionsMenu() {
@@ -265,7 +266,8 @@ void vraskthewall::addOptionsMenu() {
   hidmov = &addMenu("hidmov", "xq", "Hide non-scoring moves in Vrask games");
   ch = &addMenu("ch", "xq", "Show number of moves left");
   ch->Checked = true;
-  grid_ = std::make_unique<GridSwitch>(*this, "xq", [this](bool on) { showNumbers(on); }, "grid");
+  grid_ = std::make_unique<GridSwitch>(
+      *this, "xq", [this](bool on) { showNumbers(on); }, "grid");
   keypad_ = std::make_unique<Keypad>(
       *this, *grid_, [this] { Command4_Click(); },
       KeypadConfig{.parentMenu = "xq",

@@ -53,15 +53,10 @@ void vraskthewall::ch_Click() {
   Label35->Visible = ch->Checked;
 }
 
-// The tick hides the circles of moves that score for nobody from the next
-// move on. Taking it off brings them back at once: a player who turns the
-// option off expects to see the whole wall again.
+// From the next move on, the circles of moves that score for nobody are
+// hidden. The menu is closed during a game, and New shows them all again.
 void vraskthewall::hidmov_Click() {
   hidmov->Checked = !hidmov->Checked;
-  if (hidmov->Checked) return;
-  for (int s = 1; s <= kSquares; ++s) {
-    if (onWallNow(s)) circleOf(s).Visible = true;
-  }
 }
 
 // The numbers stand on the circles still to be played: a played circle's

@@ -22,7 +22,9 @@ TEST(WallComputer, TakesTheLowestFreeSquareWithTheMostDrawnLines) {
   squaretaken[9] = 2;  // dead
   EXPECT_EQ(computerTarget(squaretaken, lines, [](int s) { return s != 20; }), 3);
   // Nothing drawn anywhere: no move.
-  EXPECT_EQ(computerTarget(SquareMarks{}, [](int) { return 0; }, everywhere), 0);
+  EXPECT_EQ(computerTarget(
+                SquareMarks{}, [](int) { return 0; }, everywhere),
+            0);
 }
 
 TEST(WallComputer, OpensOnTheFirstNumberDrawnThatIsOnTheWall) {

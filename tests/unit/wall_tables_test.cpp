@@ -22,10 +22,10 @@ TEST(WallTables, CellLinesFollowTheRowsOfEachKindOfSquare) {
   EXPECT_EQ((Row{0, 30, 90, 60, 96}), celllines[110]);
   for (int r = 0; r < 5; ++r) {
     for (int j = 0; j < 5; ++j) {
-      EXPECT_EQ(celllines[5 * r + j + 1], (Row{0, 6 * r + j + 1, 97 + 5 * r + j, 6 * r + j + 2,
-                                               102 + 5 * r + j}));
-      EXPECT_EQ(celllines[26 + 5 * r + j], (Row{0, 31 + 6 * r + j, 127 + 5 * r + j,
-                                                32 + 6 * r + j, 132 + 5 * r + j}));
+      EXPECT_EQ(celllines[5 * r + j + 1],
+                (Row{0, 6 * r + j + 1, 97 + 5 * r + j, 6 * r + j + 2, 102 + 5 * r + j}));
+      EXPECT_EQ(celllines[26 + 5 * r + j],
+                (Row{0, 31 + 6 * r + j, 127 + 5 * r + j, 32 + 6 * r + j, 132 + 5 * r + j}));
     }
     for (int j = 0; j < 6; ++j) {
       EXPECT_EQ(celllines[81 + 6 * r + j],
@@ -52,7 +52,8 @@ TEST(WallTables, EverySquareIsAUnitSquareOfTheLattice) {
       ++squaresOfLine[line];
       auto ends = endsOf(line);
       int length = std::abs(ends[0].column - ends[1].column) +
-                   std::abs(ends[0].level - ends[1].level) + std::abs(ends[0].depth - ends[1].depth);
+                   std::abs(ends[0].level - ends[1].level) +
+                   std::abs(ends[0].depth - ends[1].depth);
       EXPECT_EQ(length, 1) << line;
       for (const Corner& c : ends) ++corners[{c.column, c.level, c.depth}];
     }
@@ -83,8 +84,8 @@ TEST(WallTables, NeighboursAreTheSquaresOfOneKindThatShareALine) {
       EXPECT_EQ(faceOf(t).side, faceOf(s).side);
       int shared = 0;
       for (int k = 1; k <= 4; ++k) {
-        shared += static_cast<int>(std::count(celllines[t].begin() + 1, celllines[t].end(),
-                                              celllines[s][k]));
+        shared += static_cast<int>(
+            std::count(celllines[t].begin() + 1, celllines[t].end(), celllines[s][k]));
       }
       EXPECT_EQ(shared, 1) << s << " " << t;
     }
@@ -106,9 +107,15 @@ std::vector<int> joined(std::initializer_list<std::vector<int>> parts) {
 
 TEST(WallTables, SmallerWallsLeaveOffThePrintedSquares) {
   std::vector<int> bigger =
-      joined({range(21, 25), range(46, 50), range(76, 80), range(105, 110),
+      joined({range(21, 25),
+              range(46, 50),
+              range(76, 80),
+              range(105, 110),
               {5, 10, 15, 20, 30, 35, 40, 45, 55, 60, 65, 70, 75, 86, 92, 98, 104}});
-  std::vector<int> wall = joined({bigger, range(16, 20), range(41, 45), range(71, 75),
+  std::vector<int> wall = joined({bigger,
+                                  range(16, 20),
+                                  range(41, 45),
+                                  range(71, 75),
                                   range(99, 104),
                                   {4, 9, 14, 29, 34, 39, 54, 59, 64, 69, 85, 91, 97, 103}});
   wall.erase(std::unique(wall.begin(), wall.end()), wall.end());
