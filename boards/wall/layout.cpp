@@ -1,5 +1,7 @@
 #include "boards/wall/layout.h"
 
+#include <functional>
+
 #include "boards/wall/tables.h"
 
 namespace vrask::wall::layout {
@@ -83,34 +85,36 @@ Rect frontOf(int bd) {
   return {corner.x, corner.y, side, side};
 }
 
-// The top runs from the front's top edge back to the back's: strokes along
-// the edge, one above the other.
-std::vector<Segment> topStrokes(int bd) {
-  int n = sideOf(bd);
+namespace {
+
+// Strokes side by side from a front edge to the back's: `edge(t)` is the
+// edge moved back by t cubes, from 0 to the depth.
+std::vector<Segment> strokesBack(int bd, const std::function<Segment(double)>& edge) {
   std::vector<Segment> strokes;
-  double depth = kDepth * cubeOf(bd);
-  for (double d = 0; d <= depth; d += kShadeStep) {
-    double t = d / cubeOf(bd);
-    Point a = project(t, -t, 0, bd);
-    Point b = project(n + t, -t, 0, bd);
-    strokes.push_back({a.x, a.y, b.x, b.y});
-  }
+  for (double d = 0; d <= kDepth * cubeOf(bd); d += kShadeStep)
+    strokes.push_back(edge(d / cubeOf(bd)));
   return strokes;
 }
 
-// The right end runs from the front's right edge back to the back's:
-// strokes up the edge, one beside the other.
+Segment between(Point a, Point b) {
+  return {a.x, a.y, b.x, b.y};
+}
+
+}  // namespace
+
+// The top runs back from the front's top edge, the right end from its
+// right edge.
+std::vector<Segment> topStrokes(int bd) {
+  int n = sideOf(bd);
+  return strokesBack(
+      bd, [&](double t) { return between(project(t, -t, 0, bd), project(n + t, -t, 0, bd)); });
+}
+
 std::vector<Segment> endStrokes(int bd) {
   int n = sideOf(bd);
-  std::vector<Segment> strokes;
-  double depth = kDepth * cubeOf(bd);
-  for (double d = 0; d <= depth; d += kShadeStep) {
-    double t = d / cubeOf(bd);
-    Point a = project(n + t, -t, 0, bd);
-    Point b = project(n + t, n - t, 0, bd);
-    strokes.push_back({a.x, a.y, b.x, b.y});
-  }
-  return strokes;
+  return strokesBack(bd, [&](double t) {
+    return between(project(n + t, -t, 0, bd), project(n + t, n - t, 0, bd));
+  });
 }
 
 }  // namespace vrask::wall::layout

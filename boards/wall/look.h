@@ -16,4 +16,24 @@ inline constexpr int kDeadMark = 2;
 // The level button of the wall shown.
 inline constexpr int kLevelChosen = 16777088;
 
+// The computer's two pauses, and the wall standing as it ended, in seconds.
+inline constexpr double kComputerPause = 2;
+inline constexpr double kEndPause = 4;
+
+// The solid: a dark slate round a wall of pale stone, on which Blue, Red,
+// Black, magenta and the computer's yellow all stand out; its edges darker
+// in front than behind.
+struct WallColours {
+  int board, panel, front, top, end, frontEdge, backEdge, circle, number;
+};
+inline constexpr WallColours kColours{.board = 0x403830,
+                                      .panel = 0xF0E4D8,
+                                      .front = 0xC0D0D8,
+                                      .top = 0xDCE6EC,
+                                      .end = 0xA0AEB8,
+                                      .frontEdge = 0x505050,
+                                      .backEdge = 0x8C9296,
+                                      .circle = 0xFFFFFF,
+                                      .number = 0x302820};
+
 }  // namespace vrask::wall

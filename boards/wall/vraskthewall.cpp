@@ -20,18 +20,6 @@ namespace lay = wall::layout;
 
 namespace {
 
-// A dark slate round a wall of pale stone: Blue, Red, Black, magenta and the
-// computer's yellow all stand out on the stone.
-constexpr int kBoardColour = 0x403830;
-constexpr int kPanelColour = 0xF0E4D8;
-constexpr int kFrontColour = 0xC0D0D8;
-constexpr int kTopColour = 0xDCE6EC;
-constexpr int kEndColour = 0xA0AEB8;
-constexpr int kFrontEdge = 0x505050;
-constexpr int kBackEdge = 0x8C9296;
-constexpr int kCircleFill = color::White;
-constexpr int kNumberColour = 0x302820;
-
 constexpr std::array<const char*, 4> kPlayerCaptions{"1 player verus the computer", "2 Players",
                                                      "3 Players", "2 Players versus the computer"};
 
@@ -71,8 +59,8 @@ void vraskthewall::Form_Load() {
   Width = lay::kFormWidth;
   Height = lay::kFormHeight;
   openAboveCentre = 300;
-  BackColor = kBoardColour;
-  placed(add("Picture2", Kind::Picture), lay::kSidePanel).BackColor = kPanelColour;
+  BackColor = kColours.board;
+  placed(add("Picture2", Kind::Picture), lay::kSidePanel).BackColor = kColours.panel;
   addBoard();
   addStatus();
   addScores();
@@ -94,14 +82,15 @@ void vraskthewall::Form_Load() {
 
 void vraskthewall::addBoard() {
   wallshade = &add("wallshade", Kind::Picture);
-  wallshade->BackColor = kBoardColour;
+  wallshade->BackColor = kColours.board;
   wallfront = &add("wallfront", Kind::Shape);
   wallfront->FillStyle = 0;
-  wallfront->FillColor = kFrontColour;
-  wallfront->BorderColor = kFrontColour;
+  wallfront->FillColor = kColours.front;
+  wallfront->BorderColor = kColours.front;
 
   a_ = &addArray("a", Kind::Line, 1, kLines);
-  for (Element& edge : *a_) edge.BorderColor = onFront(edge.index) ? kFrontEdge : kBackEdge;
+  for (Element& edge : *a_)
+    edge.BorderColor = onFront(edge.index) ? kColours.frontEdge : kColours.backEdge;
   Line3_ = &addArray("Line3", Kind::Line, 1, kLines);
   for (Element& line : *Line3_) {
     line.Visible = false;
@@ -112,14 +101,14 @@ void vraskthewall::addBoard() {
     circle.Visible = circle.index % 10 == 0;
     circle.Shape = Circle;
     circle.FillStyle = 0;
-    circle.FillColor = kCircleFill;
+    circle.FillColor = kColours.circle;
     circle.BorderColor = color::WindowText;
   }
   Label9_ = &addArray("Label9", Kind::Label, 1, kSquares);
   for (Element& target : *Label9_) {
     target.BackStyle = 0;
     target.Alignment = AlignCenter;
-    target.ForeColor = kNumberColour;
+    target.ForeColor = kColours.number;
     target.FontBold = true;
   }
 }
@@ -134,8 +123,8 @@ void vraskthewall::placeWall(int bd) {
                                     s.x2 - lay::kBoardLeft, s.y2 - lay::kBoardTop, colour});
     }
   };
-  shade(lay::topStrokes(bd), kTopColour);
-  shade(lay::endStrokes(bd), kEndColour);
+  shade(lay::topStrokes(bd), kColours.top);
+  shade(lay::endStrokes(bd), kColours.end);
   placed(*wallfront, lay::frontOf(bd));
 
   std::array<bool, kLines + 1> onThisWall{};

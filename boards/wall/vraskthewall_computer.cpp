@@ -9,12 +9,6 @@ namespace vrask {
 
 using namespace wall;
 
-namespace {
-
-constexpr double kPause = 2;
-
-}  // namespace
-
 // The square with the most drawn lines that nobody has, lowest first; with
 // none, no move, and the person plays on. Its pauses let the window live,
 // and `compbusy` holds the person's clicks out meanwhile.
@@ -22,7 +16,7 @@ void vraskthewall::computerMove() {
   compbusy = 1;
   showTurn(false);
   Refresh();
-  waitWithEvents(kPause);
+  waitWithEvents(kComputerPause);
   int s = computerTarget(
       squaretaken,
       [this](int t) {
@@ -64,7 +58,7 @@ void vraskthewall::paintComputerSquare(int s) {
   circleOf(s).Visible = true;
   for (int k = 1; k <= 4; ++k) lineOf(s, k).BorderColor = color::Yellow;
   Refresh();
-  waitWithEvents(kPause);
+  waitWithEvents(kComputerPause);
   for (int k = 1; k <= 4; ++k) lineOf(s, k).BorderColor = color::Red;
 }
 

@@ -15,8 +15,6 @@ using namespace wall;
 
 namespace {
 
-constexpr double kEndPause = 4;
-
 void addPoint(Element& points) {
   points.Caption = std::to_string(static_cast<int>(Val(points.Caption)) + 1);
 }
