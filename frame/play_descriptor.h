@@ -66,6 +66,8 @@ struct PlayDescriptor {
   std::string roundList = "List2";
   // What stands between the winner and each score in a row of it.
   std::string roundTab = "\t";
+  // What stands between the winner and the points, where it is not that.
+  std::optional<std::string> afterWinner;
   Choice blueTotal{"Label7", 5};
   Choice redTotal{"Label7", 6};
 

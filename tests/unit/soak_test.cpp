@@ -92,7 +92,8 @@ class SoakPlayer {
       auto row = [this](const std::string& head, int b, int r) {
         std::string winner = b == r ? "Tie" : (b > r ? "Blue" : "Red");
         const std::string& tab = play_.roundTab;
-        return head + winner + tab + std::to_string(b) + tab + std::to_string(r);
+        return head + winner + play_.afterWinner.value_or(tab) + std::to_string(b) + tab +
+               std::to_string(r);
       };
       const std::vector<std::string>& list = el({play_.roundList, {}}).List;
       EXPECT_EQ(std::vector<std::string>(list.begin() + static_cast<long>(rows), list.end()),
