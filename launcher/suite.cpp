@@ -2,6 +2,8 @@
 
 #include "boards/flatland/Form1large.h"
 #include "boards/flatland/play.h"
+#include "boards/wall/play.h"
+#include "boards/wall/vraskthewall.h"
 #include "boards/hypercube/form5d2.h"
 #include "boards/hypercube/play.h"
 #include "boards/zorvex/play.h"
@@ -26,6 +28,7 @@ const std::vector<Board>& boards() {
   static const std::vector<Board> list{
       {factory<Form1large>(), flatland::play()},
       {factory<zorvex>(), cube::play()},
+      {factory<vraskthewall>(), wall::play()},
       {factory<form5d2>(), hypercube::play()},
   };
   return list;

@@ -12,14 +12,8 @@
 
 namespace vrask::wall::layout {
 
-struct Rect {
-  double left = 0, top = 0, width = 0, height = 0;
-};
 struct Point {
   double x = 0, y = 0;
-};
-struct Segment {
-  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
 };
 
 // The room of the wall: a square on the left of the form.
@@ -76,7 +70,8 @@ inline constexpr double kLevelTop = 3870;
 inline constexpr double kLevelWidth = 600;
 inline constexpr double kLevelHeight = 390;
 inline constexpr double kLevelStep = 690;
-inline constexpr Place kKeypadOpener{kColumnLeft, 4500};
+inline constexpr Rect kNewGame{kColumnLeft, 4500, 1575, 450};
+inline constexpr Place kKeypadOpener{kColumnLeft + 1800, 4530};
 // "GAME" "OVER" twice, in two rows.
 inline constexpr double kGameOverTop = 5250;
 inline constexpr double kGameOverRow = 600;

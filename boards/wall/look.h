@@ -16,8 +16,8 @@ inline constexpr int kDeadMark = 2;
 // The level button of the wall shown.
 inline constexpr int kLevelChosen = 16777088;
 
-// The computer's two pauses, and the wall standing as it ended, in seconds.
-inline constexpr double kComputerPause = 2;
+// Each of the computer's two pauses, and the wall standing as it ended, in seconds.
+inline constexpr double kComputerThinks = 2;
 inline constexpr double kEndPause = 4;
 
 // The solid: a dark slate round a wall of pale stone, on which Blue, Red,

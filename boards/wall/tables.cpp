@@ -37,28 +37,29 @@ int depthLine(int level, int column) {
 
 Face faceOf(int square) {
   if (square < 1 || square > kSquares) throw std::out_of_range("no such square");
-  if (square < kFirstBack) return {Side::Front, (square - 1) / kFaceRow, (square - 1) % kFaceRow};
+  if (square < kFirstBack)
+    return {FaceKind::Front, (square - 1) / kFaceRow, (square - 1) % kFaceRow};
   if (square < kFirstLevel) {
     int n = square - kFirstBack;
-    return {Side::Back, n / kFaceRow, n % kFaceRow};
+    return {FaceKind::Back, n / kFaceRow, n % kFaceRow};
   }
   if (square < kFirstUpright) {
     int n = square - kFirstLevel;
-    return {Side::Level, n / kFaceRow, n % kFaceRow};
+    return {FaceKind::Level, n / kFaceRow, n % kFaceRow};
   }
   int n = square - kFirstUpright;
-  return {Side::Upright, n / kUprightRow, n % kUprightRow};
+  return {FaceKind::Upright, n / kUprightRow, n % kUprightRow};
 }
 
 int squareOf(const Face& face) {
-  switch (face.side) {
-    case Side::Front:
+  switch (face.kind) {
+    case FaceKind::Front:
       return 1 + kFaceRow * face.row + face.column;
-    case Side::Back:
+    case FaceKind::Back:
       return kFirstBack + kFaceRow * face.row + face.column;
-    case Side::Level:
+    case FaceKind::Level:
       return kFirstLevel + kFaceRow * face.row + face.column;
-    case Side::Upright:
+    case FaceKind::Upright:
       break;
   }
   return kFirstUpright + kUprightRow * face.row + face.column;
@@ -72,21 +73,21 @@ int squareOf(const Face& face) {
 CellLines startwall() {
   CellLines celllines{};
   for (int s = 1; s <= kSquares; ++s) {
-    auto [side, a, j] = faceOf(s);
-    switch (side) {
-      case Side::Front:
+    auto [kind, a, j] = faceOf(s);
+    switch (kind) {
+      case FaceKind::Front:
         celllines[s] = {0, upright(1, a, j), levelLine(kFirstFrontLevel, a, j),
                         upright(1, a, j + 1), levelLine(kFirstFrontLevel, a + 1, j)};
         break;
-      case Side::Back:
+      case FaceKind::Back:
         celllines[s] = {0, upright(kFirstBackUpright, a, j), levelLine(kFirstBackLevel, a, j),
                         upright(kFirstBackUpright, a, j + 1), levelLine(kFirstBackLevel, a + 1, j)};
         break;
-      case Side::Level:
+      case FaceKind::Level:
         celllines[s] = {0, depthLine(a, j), levelLine(kFirstBackLevel, a, j), depthLine(a, j + 1),
                         levelLine(kFirstFrontLevel, a, j)};
         break;
-      case Side::Upright:
+      case FaceKind::Upright:
         celllines[s] = {0, upright(1, a, j), depthLine(a, j), upright(kFirstBackUpright, a, j),
                         depthLine(a + 1, j)};
         break;
@@ -97,14 +98,14 @@ CellLines startwall() {
 
 std::vector<int> neighbours(int square) {
   Face face = faceOf(square);
-  int rows = face.side == Side::Level ? kLargest + 1 : kLargest;
-  int columns = face.side == Side::Upright ? kUprightRow : kFaceRow;
-  bool acrossRows = face.side != Side::Level;       // above and below
-  bool acrossColumns = face.side != Side::Upright;  // left and right
+  int rows = face.kind == FaceKind::Level ? kLargest + 1 : kLargest;
+  int columns = face.kind == FaceKind::Upright ? kUprightRow : kFaceRow;
+  bool acrossRows = face.kind != FaceKind::Level;       // above and below
+  bool acrossColumns = face.kind != FaceKind::Upright;  // left and right
   std::vector<int> next;
   auto add = [&](int row, int column) {
     if (row < 0 || row >= rows || column < 0 || column >= columns) return;
-    next.push_back(squareOf({face.side, row, column}));
+    next.push_back(squareOf({face.kind, row, column}));
   };
   if (acrossRows) add(face.row - 1, face.column);
   if (acrossColumns) {
@@ -120,14 +121,14 @@ std::vector<int> neighbours(int square) {
 // n + 1 of upright faces.
 bool onWall(int square, int bd) {
   int n = sideOf(bd);
-  auto [side, row, column] = faceOf(square);
-  switch (side) {
-    case Side::Front:
-    case Side::Back:
+  auto [kind, row, column] = faceOf(square);
+  switch (kind) {
+    case FaceKind::Front:
+    case FaceKind::Back:
       return row < n && column < n;
-    case Side::Level:
+    case FaceKind::Level:
       return row <= n && column < n;
-    case Side::Upright:
+    case FaceKind::Upright:
       break;
   }
   return row < n && column <= n;

@@ -36,13 +36,13 @@ inline bool takesNeighbours(int gamecode) {
 // faces that lie between cubes stacked one on another (and on top and under
 // the wall), and the upright faces between cubes side by side (and at the
 // two ends).
-enum class Side { Front, Back, Level, Upright };
+enum class FaceKind { Front, Back, Level, Upright };
 
 // Where a square is: its kind, its row (front, back, upright: 0 to 4 from the
 // top) or level (level faces: 0 to 5 from the top), and its column (0 to 4;
 // upright faces 0 to 5 from the left).
 struct Face {
-  Side side;
+  FaceKind kind;
   int row;
   int column;
 };

@@ -11,6 +11,7 @@
 #include "frame/other_games.h"
 #include "frame/round_list.h"
 #include "frame/session_menu.h"
+#include "frame/turn_flow.h"
 #include "launcher/shared_state.h"
 
 namespace vrask {
@@ -22,22 +23,6 @@ namespace {
 
 constexpr std::array<const char*, 4> kPlayerCaptions{"1 player verus the computer", "2 Players",
                                                      "3 Players", "2 Players versus the computer"};
-
-Element& placed(Element& e, const lay::Rect& r) {
-  e.Left = r.left;
-  e.Top = r.top;
-  e.Width = r.width;
-  e.Height = r.height;
-  return e;
-}
-
-Element& text(Element& e, const std::string& caption, double fontSize = 10, bool bold = false) {
-  e.Caption = caption;
-  e.FontSize = fontSize;
-  e.FontBold = bold;
-  e.BackStyle = 0;
-  return e;
-}
 
 // The lines of the front are 1..30 and 97..126; the rest lie behind it or
 // run from front to back.
@@ -55,7 +40,7 @@ vraskthewall::~vraskthewall() = default;
 // The design first, in paint order, then the load: the wall the launcher
 // asked for, the first game of the list, Blue to move.
 void vraskthewall::Form_Load() {
-  Caption = shared().product_title;
+  Caption = shared().text(shared::kProductTitle);
   Width = lay::kFormWidth;
   Height = lay::kFormHeight;
   openAboveCentre = 300;
@@ -69,15 +54,21 @@ void vraskthewall::Form_Load() {
   roundList_ = std::make_unique<RoundList>(
       *this, RoundListConfig{
                  .list = "List4", .firstRow = "", .afterWinner = "\t\t", .place = lay::kRoundList});
+  flow_ = std::make_unique<TurnFlow>(*this, *roundList_, *keypad_,
+                                     TurnFlowNames{.bluePoints = {"Label5", std::nullopt},
+                                                   .redPoints = {"Label6", std::nullopt},
+                                                   .blueTurn = {"Label4", std::nullopt},
+                                                   .redTurn = {"Label3", std::nullopt},
+                                                   .lastMove = "Label12",
+                                                   .gameMenus = {"zx", "xq"}});
   registerHandlers();
   registerVariables();
 
   celllines = startwall();
   game_Click(Classic);
-  bd_Click(std::clamp(shared().wall_level, 1, kLevels));
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = kClickACircle;
-  showTurn(true);
+  bd_Click(std::clamp(shared().number(shared::kWallLevel), 1, kLevels));
+  flow_->say(kClickACircle, color::Blue);
+  flow_->showTurn(Side::Blue);
 }
 
 void vraskthewall::addBoard() {
@@ -117,8 +108,8 @@ void vraskthewall::addBoard() {
 void vraskthewall::placeWall(int bd) {
   placed(*wallshade, {lay::kBoardLeft, lay::kBoardTop, lay::kBoardSpan, lay::kBoardSpan});
   wallshade->Cls();
-  auto shade = [&](const std::vector<lay::Segment>& strokes, int colour) {
-    for (const lay::Segment& s : strokes) {
+  auto shade = [&](const std::vector<Segment>& strokes, int colour) {
+    for (const Segment& s : strokes) {
       wallshade->drawing.push_back({s.x1 - lay::kBoardLeft, s.y1 - lay::kBoardTop,
                                     s.x2 - lay::kBoardLeft, s.y2 - lay::kBoardTop, colour});
     }
@@ -133,13 +124,9 @@ void vraskthewall::placeWall(int bd) {
     for (int k = 1; k <= 4; ++k) onThisWall.at(celllines.at(s).at(k)) = true;
   }
   for (int line = 1; line <= kLines; ++line) {
-    lay::Segment s = lay::lineAt(line, bd);
-    for (Element* e : {&(*a_)[line], &Line3(line)}) {
-      e->X1 = s.x1;
-      e->Y1 = s.y1;
-      e->X2 = s.x2;
-      e->Y2 = s.y2;
-    }
+    Segment s = lay::lineAt(line, bd);
+    placedLine((*a_)[line], s);
+    placedLine(Line3(line), s);
     (*a_)[line].Visible = onThisWall.at(line);
   }
   for (int s = 1; s <= kSquares; ++s) {
@@ -149,67 +136,58 @@ void vraskthewall::placeWall(int bd) {
 }
 
 void vraskthewall::addStatus() {
-  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 10, true);
-  Label33 = &text(placed(add("Label33", Kind::Label), lay::kStatus), "", 11, true);
+  Label36 = &captioned(placed(add("Label36", Kind::Label), lay::kGameName), "", 10, true);
+  Element& status = captioned(placed(add("Label33", Kind::Label), lay::kStatus), "", 11, true);
   // Its colour is the mover's, so it stands on white.
-  Label33->BackStyle = 1;
-  Label33->BackColor = color::White;
-  Label33->Alignment = AlignCenter;
-  Label34 = &text(placed(add("Label34", Kind::Label), lay::kMovesLeftHeading), kMovesLeftHeading);
-  Label35 = &text(placed(add("Label35", Kind::Label), lay::kMovesLeft), "");
-  Label12 = &text(placed(add("Label12", Kind::Label), lay::kLastMove), kLastMove);
+  status.BackStyle = 1;
+  status.BackColor = color::White;
+  status.Alignment = AlignCenter;
+  Label34 =
+      &captioned(placed(add("Label34", Kind::Label), lay::kMovesLeftHeading), kMovesLeftHeading);
+  Label35 = &captioned(placed(add("Label35", Kind::Label), lay::kMovesLeft), "");
+  captioned(placed(add("Label12", Kind::Label), lay::kLastMove), kLastMove);
 }
 
 // Blue's column on the left, Red's on the right: a heading, the points, and
 // the flag of the side to move (`Label4` Blue's, `Label3` Red's).
 void vraskthewall::addScores() {
   ElementArray& headings = addArray("Label10", Kind::Label, 0, 1);
-  Label5 = &add("Label5", Kind::Label);
-  Label6 = &add("Label6", Kind::Label);
-  Label4 = &add("Label4", Kind::Label);
-  Label3 = &add("Label3", Kind::Label);
-  struct Column {
-    Element& heading;
-    Element& points;
-    Element& flag;
-    const char* name;
-    int colour;
-    double left;
-  };
-  std::array<Column, 2> columns{
-      {{headings[0], *Label5, *Label4, "Blue", color::Blue, lay::kColumnLeft},
-       {headings[1], *Label6, *Label3, "Red", color::Red, lay::kRedScoreLeft}}};
-  for (Column& column : columns) {
-    placed(text(column.heading, column.name, 10, true),
-           {column.left, lay::kScoreHeadingTop, lay::kScoreWidth, lay::kLineHeight});
-    placed(text(column.points, "0", 28, true),
-           {column.left, lay::kScoreTop, lay::kScoreWidth, lay::kScoreHeight});
-    placed(text(column.flag, "Your turn", 10, true),
-           {column.left, lay::kYourTurnTop, lay::kScoreWidth, lay::kLineHeight});
-    for (Element* e : {&column.heading, &column.points, &column.flag}) {
-      e->ForeColor = column.colour;
+  std::array<std::array<Element*, 3>, 2> columns{
+      {{&headings[0], &add("Label5", Kind::Label), &add("Label4", Kind::Label)},
+       {&headings[1], &add("Label6", Kind::Label), &add("Label3", Kind::Label)}}};
+  for (size_t red = 0; red <= 1; ++red) {
+    auto [heading, points, flag] = columns.at(red);
+    double left = red == 1 ? lay::kRedScoreLeft : lay::kColumnLeft;
+    placed(captioned(*heading, red == 1 ? "Red" : "Blue", 10, true),
+           {left, lay::kScoreHeadingTop, lay::kScoreWidth, lay::kLineHeight});
+    placed(captioned(*points, "0", 28, true),
+           {left, lay::kScoreTop, lay::kScoreWidth, lay::kScoreHeight});
+    placed(captioned(*flag, "Your turn", 10, true),
+           {left, lay::kYourTurnTop, lay::kScoreWidth, lay::kLineHeight});
+    for (Element* e : columns.at(red)) {
+      e->ForeColor = red == 1 ? color::Red : color::Blue;
       e->Alignment = AlignCenter;
     }
   }
 }
 
-// The buttons of the three walls, "3", "4" and "5" cubes a side, with
-// "GAME" "OVER" below them.
+// The buttons of the three walls, "3", "4" and "5" cubes a side, New below
+// them, and "GAME" "OVER" below that.
 void vraskthewall::addLevelButtons() {
-  Label14 = &text(placed(add("Label14", Kind::Label), lay::kLevelHeading), "Wall size");
+  Label14 = &captioned(placed(add("Label14", Kind::Label), lay::kLevelHeading), "Wall size");
   Label13_ = &addArray("Label13", Kind::Label, 1, kLevels);
   for (Element& button : *Label13_) {
     double left = lay::kColumnLeft + lay::kLevelStep * (button.index - 1);
-    placed(text(button, std::to_string(sideOf(button.index)), 10, true),
+    placed(captioned(button, std::to_string(sideOf(button.index)), 10, true),
            {left, lay::kLevelTop, lay::kLevelWidth, lay::kLevelHeight});
     button.BackStyle = 1;
     button.Alignment = AlignCenter;
   }
-  Label15_ = &addArray("Label15", Kind::Label, 0, 3);
-  for (Element& label : *Label15_) {
+  placed(add("Command1", Kind::Button), lay::kNewGame).Caption = "New game";
+  for (Element& label : addArray("Label15", Kind::Label, 0, 3)) {
     int row = label.index / 2;
     int column = label.index % 2;
-    placed(text(label, column == 0 ? "GAME" : "OVER", 24, true),
+    placed(captioned(label, column == 0 ? "GAME" : "OVER", 24, true),
            {lay::kColumnLeft + column * (lay::kColumnWidth - lay::kGameOverWidth),
             lay::kGameOverTop + row * lay::kGameOverRow, lay::kGameOverWidth, lay::kGameOverRow});
     label.ForeColor = color::Red;
@@ -230,7 +208,7 @@ void vraskthewall::addMenus() {
 // The games and, below them, the three walls. Both close with the first
 // move of a game.
 void vraskthewall::addGamesMenu() {
-  zx = &addMenu("zx", "", "Games Menu");
+  addMenu("zx", "", "Games Menu");
   game_ = &addMenuArray("game", "zx", 0, static_cast<int>(kGameCaptions.size()) - 1);
   for (Element& entry : *game_) {
     entry.Caption = kGameCaptions.at(static_cast<size_t>(entry.index));
@@ -244,7 +222,7 @@ void vraskthewall::addGamesMenu() {
 }
 
 void vraskthewall::addOptionsMenu() {
-  xq = &addMenu("xq", "", "Options");
+  addMenu("xq", "", "Options");
   ip_ = &addMenuArray("ip", "xq", 0, 3);
   for (Element& entry : *ip_) {
     entry.Caption = kPlayerCaptions.at(static_cast<size_t>(entry.index));
@@ -282,6 +260,7 @@ void vraskthewall::registerHandlers() {
   handle("ch_Click", [this] { ch_Click(); });
   handle("hidmov_Click", [this] { hidmov_Click(); });
   handle("new_Click", [this] { new_Click(); });
+  handle("Command1_Click", [this] { new_Click(); });
 }
 
 void vraskthewall::registerVariables() {

@@ -28,6 +28,7 @@ class GridSwitch;
 class Keypad;
 class OtherGames;
 class RoundList;
+class TurnFlow;
 
 class vraskthewall : public Form {
  public:
@@ -59,9 +60,7 @@ class vraskthewall : public Form {
   void new_Click();
   void clearBoard();
   void openGame();
-  void setMenusEnabled(bool on);
   void showLevelButtons(bool on);
-  void showTurn(bool blue);
   int checkedLevel() const;
 
   // --- a person's moves, judging and the end (vraskthewall_play.cpp) ----------
@@ -69,6 +68,7 @@ class vraskthewall : public Form {
   void Command4_Click();
   void takeSquare(int s, int colour);
   void passTurn();
+  int drawnLines(int s);
   int judge();
   void endOfGame();
 
@@ -91,24 +91,15 @@ class vraskthewall : public Form {
   ElementArray* Shape1_ = nullptr;
   ElementArray* Label9_ = nullptr;
   ElementArray* Label13_ = nullptr;
-  ElementArray* Label15_ = nullptr;
   ElementArray* game_ = nullptr;
   ElementArray* bd_ = nullptr;
   ElementArray* ip_ = nullptr;
   Element* wallshade = nullptr;  // the top and the end of the solid
   Element* wallfront = nullptr;  // the front of the solid
-  Element* Label3 = nullptr;
-  Element* Label4 = nullptr;
-  Element* Label5 = nullptr;
-  Element* Label6 = nullptr;
-  Element* Label12 = nullptr;
-  Element* Label14 = nullptr;  // the heading of the level buttons
-  Element* Label33 = nullptr;
+  Element* Label14 = nullptr;    // the heading of the level buttons
   Element* Label34 = nullptr;
   Element* Label35 = nullptr;
   Element* Label36 = nullptr;
-  Element* zx = nullptr;
-  Element* xq = nullptr;
   Element* ch = nullptr;
   Element* hidmov = nullptr;
 
@@ -116,6 +107,7 @@ class vraskthewall : public Form {
   std::unique_ptr<Keypad> keypad_;
   std::unique_ptr<OtherGames> otherGames_;
   std::unique_ptr<RoundList> roundList_;
+  std::unique_ptr<TurnFlow> flow_;
 
   // --- the game ---------------------------------------------------------------
   int gamecode = wall::Classic;

@@ -4,6 +4,7 @@
 #include "boards/wall/captions.h"
 #include "boards/wall/look.h"
 #include "boards/wall/vraskthewall.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -14,30 +15,20 @@ using namespace wall;
 // and `compbusy` holds the person's clicks out meanwhile.
 void vraskthewall::computerMove() {
   compbusy = 1;
-  showTurn(false);
-  Refresh();
-  waitWithEvents(kComputerPause);
+  flow_->showTurn(Side::Red);
+  flow_->computerPause(kComputerThinks);
   int s = computerTarget(
-      squaretaken,
-      [this](int t) {
-        int drawn = 0;
-        for (int k = 1; k <= 4; ++k) drawn += lineOf(t, k).BorderWidth == kDrawn ? 1 : 0;
-        return drawn;
-      },
-      [this](int t) { return onWallNow(t); });
+      squaretaken, [this](int t) { return drawnLines(t); }, [this](int t) { return onWallNow(t); });
   if (s != 0) {
-    Label5->Caption = "0";
-    Label6->Caption = "0";
+    flow_->zeroScores();
     paintComputerSquare(s);
     if (takesNeighbours(gamecode)) {
       for (int next : neighbours(s)) {
-        if (!onWallNow(next)) continue;
-        takeSquare(next, color::Red);
-        Label9(next).Caption.clear();
+        if (onWallNow(next)) takeSquare(next, color::Red);
       }
     }
   }
-  showTurn(true);
+  flow_->showTurn(Side::Blue);
   compbusy = 0;
   if (s != 0 && judge() == 0) endOfGame();
 }
@@ -49,16 +40,15 @@ void vraskthewall::paintComputerSquare(int s) {
     lineOf(s, k).BorderWidth = kDrawn;
     lineOf(s, k).Visible = true;
   }
-  Label12->Caption = kLastMove + std::to_string(s);
+  flow_->showLastMove(s);
   Refresh();
-  squaretaken.at(s) = Label33->ForeColor;
+  squaretaken.at(s) = flow_->moverColour();
   circleOf(s).BorderWidth = kDrawn;
   Label9(s).Caption.clear();
   circleOf(s).BorderColor = color::Yellow;
   circleOf(s).Visible = true;
   for (int k = 1; k <= 4; ++k) lineOf(s, k).BorderColor = color::Yellow;
-  Refresh();
-  waitWithEvents(kComputerPause);
+  flow_->computerPause(kComputerThinks);
   for (int k = 1; k <= 4; ++k) lineOf(s, k).BorderColor = color::Red;
 }
 

@@ -3,8 +3,8 @@
 #include "boards/wall/look.h"
 #include "boards/wall/vraskthewall.h"
 #include "frame/grid_switch.h"
-#include "frame/helpers.h"
 #include "frame/keypad.h"
+#include "frame/turn_flow.h"
 
 namespace vrask {
 
@@ -35,15 +35,14 @@ void vraskthewall::game_Click(int index) {
 }
 
 void vraskthewall::ip_Click(int i) {
-  if (i == 0) {
-    ip(0).Checked = true;
-    ip(1).Checked = false;
-    keypad_->close();
-  } else if (i == 1) {
-    // Two players may be far apart: the keypad carries their moves.
-    ip(1).Checked = true;
-    ip(0).Checked = false;
+  if (i > 1) return;
+  ip(i).Checked = true;
+  ip(1 - i).Checked = false;
+  // Two players may be far apart: the keypad carries their moves.
+  if (i == 1) {
     keypad_->open();
+  } else {
+    keypad_->close();
   }
 }
 
@@ -59,8 +58,7 @@ void vraskthewall::hidmov_Click() {
   hidmov->Checked = !hidmov->Checked;
 }
 
-// The numbers stand on the circles still to be played: a played circle's
-// number is blanked by the move.
+// The numbers stand on the circles still to be played: a move blanks them.
 void vraskthewall::showNumbers(bool on) {
   for (Element& target : *Label9_) {
     bool open = circleOf(target.index).BorderWidth != kDrawn;
@@ -73,23 +71,15 @@ void vraskthewall::showNumbers(bool on) {
 void vraskthewall::new_Click() {
   if (compbusy == 1) return;
   gameover = 0;
-  Label12->Caption = kLastMove;
-  for (Element& label : *Label15_) label.Visible = false;
+  flow_->startNewGame();
   showLevelButtons(true);
   squaretaken = {};
-  if (keypad_->on()) {
-    keypad_->text().Text.clear();
-    keypad_->panel().Visible = true;
-    keypad_->focusText();
-  }
   clearBoard();
-  setMenusEnabled(true);
-  Label5->Caption = "0";
-  Label6->Caption = "0";
-  Label33->ForeColor = color::Blue;
-  Label33->Caption = kClickACircle;
+  flow_->setGameMenusEnabled(true);
+  flow_->zeroScores();
+  flow_->say(kClickACircle, color::Blue);
+  flow_->showTurn(Side::Blue);
   Label35->Caption = std::to_string(wallsize);
-  showTurn(true);
   openGame();
 }
 
@@ -117,9 +107,8 @@ void vraskthewall::openGame() {
     return;
   }
   openerflag = 1;
-  Label33->ForeColor = color::Red;
-  Label33->Caption = kRedsTurn;
-  showTurn(false);
+  flow_->say(kRedsTurn, color::Red);
+  flow_->showTurn(Side::Red);
   if (!ip(0).Checked) return;
   int s = openingSquare([this](int n) { return pick(n); }, [this](int t) { return onWallNow(t); });
   ip(0).Checked = false;
@@ -127,21 +116,11 @@ void vraskthewall::openGame() {
   ip(0).Checked = true;
 }
 
-void vraskthewall::setMenusEnabled(bool on) {
-  zx->Enabled = on;
-  xq->Enabled = on;
-}
-
 // The wall can be changed only before the first move; the heading goes and
 // comes with the buttons.
 void vraskthewall::showLevelButtons(bool on) {
   for (Element& button : *Label13_) button.Visible = on;
   Label14->Visible = on;
-}
-
-void vraskthewall::showTurn(bool blue) {
-  Label4->Visible = blue;
-  Label3->Visible = !blue;
 }
 
 int vraskthewall::checkedLevel() const {

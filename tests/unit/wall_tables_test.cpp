@@ -81,7 +81,7 @@ TEST(WallTables, NeighboursAreTheSquaresOfOneKindThatShareALine) {
     for (int t : next) {
       auto theirs = neighbours(t);
       EXPECT_NE(std::find(theirs.begin(), theirs.end(), s), theirs.end()) << s << " " << t;
-      EXPECT_EQ(faceOf(t).side, faceOf(s).side);
+      EXPECT_EQ(faceOf(t).kind, faceOf(s).kind);
       int shared = 0;
       for (int k = 1; k <= 4; ++k) {
         shared += static_cast<int>(
@@ -134,13 +134,13 @@ TEST(WallTables, SmallerWallsLeaveOffThePrintedSquares) {
   EXPECT_FALSE(onWall(4, 1));
 }
 
-double distanceToSegment(layout::Point p, layout::Segment s) {
+double distanceToSegment(layout::Point p, Segment s) {
   double vx = s.x2 - s.x1, vy = s.y2 - s.y1;
   double t = std::clamp(((p.x - s.x1) * vx + (p.y - s.y1) * vy) / (vx * vx + vy * vy), 0.0, 1.0);
   return std::hypot(p.x - s.x1 - t * vx, p.y - s.y1 - t * vy);
 }
 
-bool overlap(const layout::Rect& a, const layout::Rect& b) {
+bool overlap(const Rect& a, const Rect& b) {
   return a.left < b.left + b.width && b.left < a.left + a.width && a.top < b.top + b.height &&
          b.top < a.top + a.height;
 }
@@ -156,7 +156,7 @@ TEST(WallLayout, CirclesStandClearOfOtherLinesAndTargetsApart) {
       if (onWall(s, bd)) squares.push_back(s);
     }
     for (int s : squares) {
-      layout::Rect circle = layout::circleAt(s, bd);
+      Rect circle = layout::circleAt(s, bd);
       layout::Point middle = layout::middleOf(s, bd);
       for (int line = 1; line <= kLines; ++line) {
         bool own = std::count(celllines[s].begin() + 1, celllines[s].end(), line) != 0;
