@@ -6,12 +6,10 @@
 
 namespace vrask::wall {
 
-inline constexpr const char* kClickACircle = "Click a circle to begin playing";
-inline constexpr const char* kBluesTurn = "Blue player's turn";
-inline constexpr const char* kRedsTurn = "Red player's turn";
-inline constexpr const char* kLastMove = "Last move: ";
-inline constexpr const char* kInvalidMove = "Invalid move!";
-inline constexpr const char* kMovesLeftHeading = "Moves left:";
+// The players menu: "3 Players" and "2 Players versus the computer" are
+// not offered.
+inline constexpr std::array<const char*, 4> kPlayerCaptions{
+    "1 player verus the computer", "2 Players", "3 Players", "2 Players versus the computer"};
 
 // The list of games has eleven slots; those without a caption here are
 // separators. Only the four games of `kGameCodes` are shown.
@@ -45,6 +43,14 @@ inline std::string gameLabel(int gamecode) {
 // cubes a side.
 inline constexpr std::array<const char*, 3> kLevelCaptions{"Vrask The Wall", "Vrask a Bigger Wall",
                                                            "Vrask the Great Wall"};
+
+// The status line, the last move, the one refusal and the count.
+inline constexpr const char* kClickACircle = "Click a circle to begin playing";
+inline constexpr const char* kBluesTurn = "Blue player's turn";
+inline constexpr const char* kRedsTurn = "Red player's turn";
+inline constexpr const char* kLastMove = "Last move: ";
+inline constexpr const char* kInvalidMove = "Invalid move!";
+inline constexpr const char* kMovesLeftHeading = "Moves left:";
 
 inline std::string movesLeft(int n) {
   return std::to_string(n) + " moves left";

@@ -49,33 +49,41 @@ inline constexpr double kFormWidth = 16740;
 inline constexpr double kFormHeight = 9480;
 inline constexpr Rect kSidePanel{9420, 0, kFormWidth - 9420, kFormHeight};
 
-// First column: the game, the turn, the scores, moves left, the levels.
+// First column: the game, the turn, the scores, moves left, the walls, New.
 inline constexpr double kColumnLeft = 9600;
 inline constexpr double kColumnWidth = 3300;
 inline constexpr double kLineHeight = 285;
+// A box across the column, or part of it from `indent`.
+constexpr Rect inColumn(double top, double height = kLineHeight, double indent = 0,
+                        double width = kColumnWidth) {
+  return {kColumnLeft + indent, top, width - indent, height};
+}
 // The game's name takes two rows: "Game = Super Vrask Plus (Set count)".
-inline constexpr Rect kGameName{kColumnLeft, 180, kColumnWidth, 540};
-inline constexpr Rect kStatus{kColumnLeft, 780, kColumnWidth, 360};
-inline constexpr double kScoreWidth = 1575;
-inline constexpr double kRedScoreLeft = kColumnLeft + kColumnWidth - kScoreWidth;
-inline constexpr double kScoreHeadingTop = 1380;
-inline constexpr double kScoreTop = 1650;
-inline constexpr double kScoreHeight = 720;
-inline constexpr double kYourTurnTop = 2400;
-inline constexpr Rect kMovesLeftHeading{kColumnLeft, 2850, 1200, kLineHeight};
-inline constexpr Rect kMovesLeft{kColumnLeft + 1200, 2850, kColumnWidth - 1200, kLineHeight};
-inline constexpr Rect kLastMove{kColumnLeft, 3150, kColumnWidth, kLineHeight};
-inline constexpr Rect kLevelHeading{kColumnLeft, 3570, kColumnWidth, kLineHeight};
-inline constexpr double kLevelTop = 3870;
-inline constexpr double kLevelWidth = 600;
-inline constexpr double kLevelHeight = 390;
-inline constexpr double kLevelStep = 690;
-inline constexpr Rect kNewGame{kColumnLeft, 4500, 1575, 450};
+inline constexpr Rect kGameName = inColumn(180, 540);
+inline constexpr Rect kStatus = inColumn(780, 360);
+inline constexpr Rect kMovesLeftHeading = inColumn(2850, kLineHeight, 0, 1200);
+inline constexpr Rect kMovesLeft = inColumn(2850, kLineHeight, 1200);
+inline constexpr Rect kLastMove = inColumn(3150);
+inline constexpr Rect kLevelHeading = inColumn(3570);
+inline constexpr Rect kNewGame = inColumn(4500, 450, 0, 1575);
 inline constexpr Place kKeypadOpener{kColumnLeft + 1800, 4530};
-// "GAME" "OVER" twice, in two rows.
-inline constexpr double kGameOverTop = 5250;
-inline constexpr double kGameOverRow = 600;
-inline constexpr double kGameOverWidth = 1575;
+
+// Each side's points: Blue's on the left of the column, Red's on the right;
+// a heading, the number, and "Your turn" below.
+struct ScoreColumn {
+  double width, headingTop, pointsTop, pointsHeight, flagTop;
+};
+inline constexpr ScoreColumn kScores{
+    .width = 1575, .headingTop = 1380, .pointsTop = 1650, .pointsHeight = 720, .flagTop = 2400};
+inline constexpr double kRedScoreLeft = kColumnLeft + kColumnWidth - kScores.width;
+
+// The buttons of the three walls, in a row, and "GAME" "OVER" twice, in two
+// rows.
+struct Row {
+  double top, width, height, step;
+};
+inline constexpr Row kLevelButtons{.top = 3870, .width = 600, .height = 390, .step = 690};
+inline constexpr Row kGameOver{.top = 5250, .width = 1575, .height = 600, .step = 600};
 
 // Second column: the round list, the keypad below it.
 inline constexpr Place kRoundList{13260, 240};

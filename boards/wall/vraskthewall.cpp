@@ -21,9 +21,6 @@ namespace lay = wall::layout;
 
 namespace {
 
-constexpr std::array<const char*, 4> kPlayerCaptions{"1 player verus the computer", "2 Players",
-                                                     "3 Players", "2 Players versus the computer"};
-
 // The lines of the front are 1..30 and 97..126; the rest lie behind it or
 // run from front to back.
 bool onFront(int line) {
@@ -33,7 +30,12 @@ bool onFront(int line) {
 
 }  // namespace
 
-vraskthewall::vraskthewall(Program& program) : Form(program, "vraskthewall") {}
+vraskthewall::vraskthewall(Program& program) : Form(program, "vraskthewall") {
+  BackColor = kColours.board;
+  Width = lay::kFormWidth;
+  Height = lay::kFormHeight;
+  openAboveCentre = 300;
+}
 
 vraskthewall::~vraskthewall() = default;
 
@@ -41,10 +43,6 @@ vraskthewall::~vraskthewall() = default;
 // asked for, the first game of the list, Blue to move.
 void vraskthewall::Form_Load() {
   Caption = shared().text(shared::kProductTitle);
-  Width = lay::kFormWidth;
-  Height = lay::kFormHeight;
-  openAboveCentre = 300;
-  BackColor = kColours.board;
   placed(add("Picture2", Kind::Picture), lay::kSidePanel).BackColor = kColours.panel;
   addBoard();
   addStatus();
@@ -158,12 +156,11 @@ void vraskthewall::addScores() {
   for (size_t red = 0; red <= 1; ++red) {
     auto [heading, points, flag] = columns.at(red);
     double left = red == 1 ? lay::kRedScoreLeft : lay::kColumnLeft;
+    const lay::ScoreColumn& at = lay::kScores;
     placed(captioned(*heading, red == 1 ? "Red" : "Blue", 10, true),
-           {left, lay::kScoreHeadingTop, lay::kScoreWidth, lay::kLineHeight});
-    placed(captioned(*points, "0", 28, true),
-           {left, lay::kScoreTop, lay::kScoreWidth, lay::kScoreHeight});
-    placed(captioned(*flag, "Your turn", 10, true),
-           {left, lay::kYourTurnTop, lay::kScoreWidth, lay::kLineHeight});
+           {left, at.headingTop, at.width, lay::kLineHeight});
+    placed(captioned(*points, "0", 28, true), {left, at.pointsTop, at.width, at.pointsHeight});
+    placed(captioned(*flag, "Your turn", 10, true), {left, at.flagTop, at.width, lay::kLineHeight});
     for (Element* e : columns.at(red)) {
       e->ForeColor = red == 1 ? color::Red : color::Blue;
       e->Alignment = AlignCenter;
@@ -177,9 +174,9 @@ void vraskthewall::addLevelButtons() {
   Label14 = &captioned(placed(add("Label14", Kind::Label), lay::kLevelHeading), "Wall size");
   Label13_ = &addArray("Label13", Kind::Label, 1, kLevels);
   for (Element& button : *Label13_) {
-    double left = lay::kColumnLeft + lay::kLevelStep * (button.index - 1);
+    const lay::Row& row = lay::kLevelButtons;
     placed(captioned(button, std::to_string(sideOf(button.index)), 10, true),
-           {left, lay::kLevelTop, lay::kLevelWidth, lay::kLevelHeight});
+           {lay::kColumnLeft + row.step * (button.index - 1), row.top, row.width, row.height});
     button.BackStyle = 1;
     button.Alignment = AlignCenter;
   }
@@ -187,9 +184,10 @@ void vraskthewall::addLevelButtons() {
   for (Element& label : addArray("Label15", Kind::Label, 0, 3)) {
     int row = label.index / 2;
     int column = label.index % 2;
+    const lay::Row& block = lay::kGameOver;
     placed(captioned(label, column == 0 ? "GAME" : "OVER", 24, true),
-           {lay::kColumnLeft + column * (lay::kColumnWidth - lay::kGameOverWidth),
-            lay::kGameOverTop + row * lay::kGameOverRow, lay::kGameOverWidth, lay::kGameOverRow});
+           {lay::kColumnLeft + column * (lay::kColumnWidth - block.width),
+            block.top + row * block.step, block.width, block.height});
     label.ForeColor = color::Red;
     label.Alignment = AlignCenter;
     label.Visible = false;
@@ -202,7 +200,11 @@ void vraskthewall::addMenus() {
   addOptionsMenu();
   otherGames_ = std::make_unique<OtherGames>(
       *this, OtherGamesNames{.twoD = "cbm", .threeD = "cccbm", .fourD = "ccccbm"});
-  addHelpAndExit();
+  // Help and About stay open during a game, and so does Exit.
+  addMenu("hlp", "", "Help");
+  addHelpEntry(*this, "rulec", "hlp");
+  addAboutEntry(*this, "abt", "hlp");
+  addExitEntry(*this, "");
 }
 
 // The games and, below them, the three walls. Both close with the first
@@ -223,12 +225,12 @@ void vraskthewall::addGamesMenu() {
 
 void vraskthewall::addOptionsMenu() {
   addMenu("xq", "", "Options");
-  ip_ = &addMenuArray("ip", "xq", 0, 3);
+  ip_ = &addMenuArray("ip", "xq", 0, static_cast<int>(kPlayerCaptions.size()) - 1);
   for (Element& entry : *ip_) {
     entry.Caption = kPlayerCaptions.at(static_cast<size_t>(entry.index));
     entry.Visible = entry.index <= 1;
+    entry.Checked = entry.index == 0;
   }
-  ip(0).Checked = true;
   addMenu("osep", "xq", "-");
   hidmov = &addMenu("hidmov", "xq", "Hide non-scoring moves in Vrask games");
   ch = &addMenu("ch", "xq", "Show number of moves left");
@@ -244,31 +246,34 @@ void vraskthewall::addOptionsMenu() {
   addOnlineEntries(*this, "xq");
 }
 
-void vraskthewall::addHelpAndExit() {
-  addMenu("hlp", "", "Help");
-  addHelpEntry(*this, "rulec", "hlp");
-  addAboutEntry(*this, "abt", "hlp");
-  addExitEntry(*this, "");
-}
-
+// The clicks the wall answers, by the handlers' own names.
 void vraskthewall::registerHandlers() {
-  handleIndexed("Label9_Click", [this](int n) { Label9_Click(n); });
-  handleIndexed("Label13_Click", [this](int level) { bd_Click(level); });
-  handleIndexed("bd_Click", [this](int level) { bd_Click(level); });
-  handleIndexed("game_Click", [this](int index) { game_Click(index); });
-  handleIndexed("ip_Click", [this](int i) { ip_Click(i); });
-  handle("ch_Click", [this] { ch_Click(); });
-  handle("hidmov_Click", [this] { hidmov_Click(); });
-  handle("new_Click", [this] { new_Click(); });
-  handle("Command1_Click", [this] { new_Click(); });
+  using Indexed = void (vraskthewall::*)(int);
+  const std::array<std::pair<const char*, Indexed>, 5> indexed{
+      {{"Label9_Click", &vraskthewall::Label9_Click},
+       {"Label13_Click", &vraskthewall::bd_Click},
+       {"bd_Click", &vraskthewall::bd_Click},
+       {"game_Click", &vraskthewall::game_Click},
+       {"ip_Click", &vraskthewall::ip_Click}}};
+  for (auto [name, handler] : indexed)
+    handleIndexed(name, [this, handler](int i) { (this->*handler)(i); });
+  using Plain = void (vraskthewall::*)();
+  const std::array<std::pair<const char*, Plain>, 4> plain{
+      {{"ch_Click", &vraskthewall::ch_Click},
+       {"hidmov_Click", &vraskthewall::hidmov_Click},
+       {"new_Click", &vraskthewall::new_Click},
+       {"Command1_Click", &vraskthewall::new_Click}}};
+  for (auto [name, handler] : plain) handle(name, [this, handler] { (this->*handler)(); });
 }
 
 void vraskthewall::registerVariables() {
-  var("gamecode", gamecode);
-  var("wallsize", wallsize);
-  var("openerflag", openerflag);
-  var("compbusy", compbusy);
-  var("gameover", gameover);
+  for (auto [name, value] : {std::pair<const char*, int*>{"gamecode", &gamecode},
+                             {"wallsize", &wallsize},
+                             {"openerflag", &openerflag},
+                             {"compbusy", &compbusy},
+                             {"gameover", &gameover}}) {
+    var(name, *value);
+  }
   varArray("squaretaken", 1, kSquares,
            [this](int s) { return num(squaretaken.at(static_cast<size_t>(s))); });
   varTable("celllines", {1, kSquares}, {1, 4}, [this](int s, int k) {

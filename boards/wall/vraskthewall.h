@@ -20,15 +20,14 @@
 
 #include "boards/wall/computer.h"
 #include "boards/wall/tables.h"
+#include "frame/grid_switch.h"
+#include "frame/keypad.h"
+#include "frame/other_games.h"
+#include "frame/round_list.h"
+#include "frame/turn_flow.h"
 #include "toolkit/form.h"
 
 namespace vrask {
-
-class GridSwitch;
-class Keypad;
-class OtherGames;
-class RoundList;
-class TurnFlow;
 
 class vraskthewall : public Form {
  public:
@@ -45,7 +44,6 @@ class vraskthewall : public Form {
   void addMenus();
   void addGamesMenu();
   void addOptionsMenu();
-  void addHelpAndExit();
   void registerHandlers();
   void registerVariables();
   void placeWall(int bd);
@@ -86,39 +84,35 @@ class vraskthewall : public Form {
   Element& ip(int i) { return (*ip_)[i]; }
   bool onWallNow(int s) const { return (*Label9_)[s].Visible; }
 
-  ElementArray* a_ = nullptr;  // the edges of the empty wall, a picture only
-  ElementArray* Line3_ = nullptr;
-  ElementArray* Shape1_ = nullptr;
-  ElementArray* Label9_ = nullptr;
-  ElementArray* Label13_ = nullptr;
-  ElementArray* game_ = nullptr;
-  ElementArray* bd_ = nullptr;
-  ElementArray* ip_ = nullptr;
-  Element* wallshade = nullptr;  // the top and the end of the solid
-  Element* wallfront = nullptr;  // the front of the solid
-  Element* Label14 = nullptr;    // the heading of the level buttons
-  Element* Label34 = nullptr;
-  Element* Label35 = nullptr;
-  Element* Label36 = nullptr;
-  Element* ch = nullptr;
-  Element* hidmov = nullptr;
-
-  std::unique_ptr<GridSwitch> grid_;
-  std::unique_ptr<Keypad> keypad_;
-  std::unique_ptr<OtherGames> otherGames_;
-  std::unique_ptr<RoundList> roundList_;
-  std::unique_ptr<TurnFlow> flow_;
-
-  // --- the game ---------------------------------------------------------------
+  // --- the game ------------------------------------------------------------------
   int gamecode = wall::Classic;
   int wallsize = 0;
+  wall::CellLines celllines{};
   int openerflag = 0;  // turned over by New: 1 when Red opens
   // 1 while the computer moves: clicks, typed moves and New wait for it.
   int compbusy = 0;
   // 1 from the end of a game until New: the finished wall takes no more moves.
   int gameover = 0;
-  wall::CellLines celllines{};
   wall::SquareMarks squaretaken{};
+
+  // --- the elements the rules use -------------------------------------------------
+  // The edges of the empty wall (a picture only), the lines, the circles and
+  // their click targets.
+  ElementArray *a_ = nullptr, *Line3_ = nullptr, *Shape1_ = nullptr, *Label9_ = nullptr;
+  // The level buttons, and the menus of games, walls and players.
+  ElementArray *Label13_ = nullptr, *game_ = nullptr, *bd_ = nullptr, *ip_ = nullptr;
+  // The top and the end of the solid, and its front.
+  Element *wallshade = nullptr, *wallfront = nullptr;
+  // The heading of the level buttons, moves left with its heading, the game.
+  Element *Label14 = nullptr, *Label34 = nullptr, *Label35 = nullptr, *Label36 = nullptr;
+  Element *ch = nullptr, *hidmov = nullptr;
+
+  // --- the frame's services -------------------------------------------------------
+  std::unique_ptr<GridSwitch> grid_;
+  std::unique_ptr<Keypad> keypad_;
+  std::unique_ptr<OtherGames> otherGames_;
+  std::unique_ptr<RoundList> roundList_;
+  std::unique_ptr<TurnFlow> flow_;
 };
 
 }  // namespace vrask

@@ -1,4 +1,6 @@
 // The menus of the wall board: games, walls, players, the options, and New.
+#include <algorithm>
+
 #include "boards/wall/captions.h"
 #include "boards/wall/look.h"
 #include "boards/wall/vraskthewall.h"
@@ -124,10 +126,8 @@ void vraskthewall::showLevelButtons(bool on) {
 }
 
 int vraskthewall::checkedLevel() const {
-  for (const Element& entry : *bd_) {
-    if (entry.Checked) return entry.index;
-  }
-  return 1;
+  auto checked = std::find_if(bd_->begin(), bd_->end(), [](const Element& e) { return e.Checked; });
+  return checked == bd_->end() ? 1 : checked->index;
 }
 
 }  // namespace vrask
