@@ -85,17 +85,25 @@ int vraskthewall::drawnLines(int s) {
 int vraskthewall::judge() {
   flow_->zeroScores();
   bool classic = isClassic(gamecode);
+  int blue = 0;
+  int red = 0;
   for (int s = 1; s <= kSquares; ++s) {
+    int blueLines = 0;
+    int redLines = 0;
+    int drawn = 0;
+    for (int k = 1; k <= 4; ++k) {
+      const Element& line = lineOf(s, k);
+      blueLines += line.BorderColor == color::Blue ? 1 : 0;
+      redLines += line.BorderColor == color::Red ? 1 : 0;
+      drawn += line.BorderWidth == kDrawn ? 1 : 0;
+    }
     Element& circle = circleOf(s);
     circle.BorderColor = color::Black;
-    for (auto [colour, side] : {std::pair{color::Red, Side::Red}, {color::Blue, Side::Blue}}) {
-      int painted = 0;
-      for (int k = 1; k <= 4; ++k) painted += lineOf(s, k).BorderColor == colour ? 1 : 0;
-      if (painted < 4) continue;
-      flow_->addPoints(side, 1);
-      circle.BorderColor = colour;
-    }
-    if (classic && drawnLines(s) == 4 && circle.BorderWidth != kDrawn) {
+    if (redLines == 4) circle.BorderColor = color::Red;
+    if (blueLines == 4) circle.BorderColor = color::Blue;
+    red += redLines == 4 ? 1 : 0;
+    blue += blueLines == 4 ? 1 : 0;
+    if (classic && drawn == 4 && circle.BorderWidth != kDrawn) {
       squaretaken.at(s) = kDeadMark;
       circle.BorderWidth = kDrawn;
       circle.BorderColor = kDead;
@@ -103,6 +111,8 @@ int vraskthewall::judge() {
       Label9(s).Caption.clear();
     }
   }
+  flow_->addPoints(Side::Red, red);
+  flow_->addPoints(Side::Blue, blue);
   if (hidmov->Checked) {
     for (int s = 1; s <= kSquares; ++s) {
       Element& circle = circleOf(s);
