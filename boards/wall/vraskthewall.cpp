@@ -255,15 +255,18 @@ void vraskthewall::registerHandlers() {
        {"bd_Click", &vraskthewall::bd_Click},
        {"game_Click", &vraskthewall::game_Click},
        {"ip_Click", &vraskthewall::ip_Click}}};
-  for (auto [name, handler] : indexed)
-    handleIndexed(name, [this, handler](int i) { (this->*handler)(i); });
+  for (const auto& entry : indexed) {
+    handleIndexed(entry.first, [this, handler = entry.second](int i) { (this->*handler)(i); });
+  }
   using Plain = void (vraskthewall::*)();
   const std::array<std::pair<const char*, Plain>, 4> plain{
       {{"ch_Click", &vraskthewall::ch_Click},
        {"hidmov_Click", &vraskthewall::hidmov_Click},
        {"new_Click", &vraskthewall::new_Click},
        {"Command1_Click", &vraskthewall::new_Click}}};
-  for (auto [name, handler] : plain) handle(name, [this, handler] { (this->*handler)(); });
+  for (const auto& entry : plain) {
+    handle(entry.first, [this, handler = entry.second] { (this->*handler)(); });
+  }
 }
 
 void vraskthewall::registerVariables() {
