@@ -67,7 +67,7 @@ struct PlayDescriptor {
   // What stands between the winner and each score in a row of it.
   std::string roundTab = "\t";
   // What stands between the winner and the points, where it is not that.
-  std::optional<std::string> afterWinner;
+  std::optional<std::string> afterWinner = std::nullopt;
   Choice blueTotal{"Label7", 5};
   Choice redTotal{"Label7", 6};
 

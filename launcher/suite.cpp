@@ -2,10 +2,10 @@
 
 #include "boards/flatland/Form1large.h"
 #include "boards/flatland/play.h"
-#include "boards/wall/play.h"
-#include "boards/wall/vraskthewall.h"
 #include "boards/hypercube/form5d2.h"
 #include "boards/hypercube/play.h"
+#include "boards/wall/play.h"
+#include "boards/wall/vraskthewall.h"
 #include "boards/zorvex/play.h"
 #include "boards/zorvex/zorvex.h"
 #include "frame/about_box.h"
