@@ -127,9 +127,9 @@ std::optional<int> TurnFlow::typedNumber() {
   return static_cast<int>(n);
 }
 
-void TurnFlow::computerPause() {
+void TurnFlow::computerPause(double seconds) {
   form_.Refresh();
-  form_.waitWithEvents(kComputerPause);
+  form_.waitWithEvents(seconds);
 }
 
 int TurnFlow::pickFrom(const std::vector<int>& candidates) {

@@ -92,9 +92,10 @@ class TurnFlow {
   // without a word, when it is not one.
   std::optional<int> typedNumber();
 
-  // The computer's move shows for a moment; clicks that come in the pause
-  // reach the handlers, which the board's busy flag keeps out.
-  void computerPause();
+  // The computer's move shows for a moment (`seconds`, where a board's
+  // computer takes longer); clicks that come in the pause reach the
+  // handlers, which the board's busy flag keeps out.
+  void computerPause(double seconds = kComputerPause);
   // Int(count * Rnd + 1): one of `candidates`, drawn with the program's
   // random numbers; 0 when the draw falls outside them (an empty list still
   // takes its random number).

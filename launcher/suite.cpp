@@ -8,6 +8,8 @@
 #include "boards/quennel/play.h"
 #include "boards/triangular/Triang.h"
 #include "boards/triangular/play.h"
+#include "boards/wall/play.h"
+#include "boards/wall/vraskthewall.h"
 #include "boards/zorvex/play.h"
 #include "boards/zorvex/zorvex.h"
 #include "frame/about_box.h"
@@ -31,6 +33,7 @@ const std::vector<Board>& boards() {
       {factory<Form1large>(), flatland::play()},
       {factory<Triang>(), triangular::play()},
       {factory<zorvex>(), cube::play()},
+      {factory<vraskthewall>(), wall::play()},
       {factory<form5d2>(), hypercube::play()},
       {factory<Quennel>(), quennel::play()},
   };

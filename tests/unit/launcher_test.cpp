@@ -57,8 +57,8 @@ TEST_F(LauncherFixture, EachQuickLaunchOpensItsBoardAloneWithItsSharedValues) {
 
 TEST_F(LauncherFixture, FrontPageSpinsTheEmblemLightsOneLaunchAtATimeAndOffersOnlyBuiltBoards) {
   start({"Triang", "zorvex"});
-  EXPECT_TRUE(label(31).Visible && !label(31).Enabled);
-  EXPECT_EQ(label(31).ToolTipText, "Not yet available");
+  EXPECT_TRUE(label(100).Visible && !label(100).Enabled);
+  EXPECT_EQ(label(100).ToolTipText, "Not yet available");
   program.timerTick(*program.current(), el("tmrAni"));
   program.timerTick(*program.current(), el("tmrAni"));
   EXPECT_EQ(el("picViewer").drawing.size(), 8U) << "four arms, each a line and a dot, anew";
