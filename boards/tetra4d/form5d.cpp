@@ -1,0 +1,349 @@
+#include "boards/tetra4d/form5d.h"
+
+#include <array>
+#include <string>
+
+#include "boards/tetra4d/captions.h"
+#include "boards/tetra4d/layout.h"
+#include "boards/tetra4d/look.h"
+#include "frame/grid_switch.h"
+#include "frame/keypad.h"
+#include "frame/other_games.h"
+#include "frame/round_list.h"
+#include "frame/session_menu.h"
+#include "frame/sudden_death.h"
+#include "launcher/shared_state.h"
+
+namespace vrask {
+
+using namespace tetra4d;
+namespace lay = tetra4d::layout;
+
+namespace {
+
+constexpr int kGridNumbers = color::Yellow;
+// The second hit areas of the three spokes of the back bottom right corner,
+// by apex.
+constexpr std::array<int, 3> kSecondHitAreas{300, 470, 390};
+constexpr int kLastHitArea = 470;
+
+constexpr std::array<const char*, 8> kGameCaptions{"",
+                                                   "Ombrel",
+                                                   "-",
+                                                   "Vrask  (Classic)",
+                                                   "Vrask  (Set count)",
+                                                   "-",
+                                                   "Vrask  (Classic with Vrask move)",
+                                                   "Vrask  (Set count with Vrask move)"};
+
+Element& placed(Element& e, const lay::Rect& r) {
+  e.Left = r.left;
+  e.Top = r.top;
+  e.Width = r.width;
+  e.Height = r.height;
+  return e;
+}
+
+Element& text(Element& e, const std::string& caption, double fontSize = 10, bool bold = false) {
+  e.Caption = caption;
+  e.FontSize = fontSize;
+  e.FontBold = bold;
+  e.BackStyle = 0;
+  return e;
+}
+
+void drawAlong(Element& line, const lay::Segment& s) {
+  line.X1 = s.x1;
+  line.Y1 = s.y1;
+  line.X2 = s.x2;
+  line.Y2 = s.y2;
+}
+
+// The uprights of a cube: leftfront, rightfront, leftback, rightback.
+bool isUpright(int e) {
+  return e == 5 || e == 6 || e == 10 || e == 11;
+}
+
+// Apexes by the index of their second hit area.
+int apexOfSecondHitArea(int index) {
+  for (int apex = 1; apex <= 3; ++apex) {
+    if (kSecondHitAreas.at(static_cast<size_t>(apex - 1)) == index) return apex;
+  }
+  return 0;
+}
+
+}  // namespace
+
+form5d::form5d(Program& program) : Form(program, "form5d") {}
+
+form5d::~form5d() = default;
+
+void form5d::Form_Load() {
+  Caption = shared().product_title;
+  Width = lay::kFormWidth;
+  Height = lay::kFormHeight;
+  openAboveCentre = 300;
+  BackColor = kBoardColour;
+  addFigures();
+  addCircles();
+  addHitAreas();
+  addScores();
+  addStatus();
+  addBelowFigures();
+  addMenus();
+  registerHandlers();
+  registerVariables();
+
+  board_.level = kSingleCube;
+  board_.lnstate = freshLines(kSingleCube);
+  lntri_ = lineTriangles(board_.triln);
+  game_Click(kOmbrel);
+  sd_->choose(1);
+}
+
+// The figures are painted first, so that circles, numbers and hit areas lie
+// over them.
+void form5d::addFigures() {
+  addCube(1);
+  addCube(2);
+  for (int e = 1; e <= kEdges; ++e) {
+    Element& line = addSegment("c5" + std::string(kEdgeNames.at(static_cast<size_t>(e))), 1, 1,
+                               isUpright(e) ? kMiddleUpright : color::White);
+    drawAlong(line, lay::edgeIn(3, e));
+    middle_.at(static_cast<size_t>(e)) = findArray(line.name);
+  }
+  for (int apex = 1; apex <= 3; ++apex) addSpokes(apex);
+}
+
+// Views 0 and 1 of a cube stand in one place: the line game shows view 0 of
+// the first cube, the circle games view 1; the right figure shows the second
+// cube's own lines (view 0) in the larger level and the first cube's (view 1)
+// in the smaller.
+void form5d::addCube(int cube) {
+  for (int e = 1; e <= kEdges; ++e) {
+    std::string name =
+        "c" + std::to_string(cube) + std::string(kEdgeNames.at(static_cast<size_t>(e)));
+    addSegment(name, 0, 1, color::White);
+    ElementArray* views = findArray(name);
+    for (Element& line : *views) drawAlong(line, lay::edgeIn(cube, e));
+    cubes_.at(static_cast<size_t>(cube)).at(static_cast<size_t>(e)) = views;
+  }
+}
+
+void form5d::addSpokes(int apex) {
+  for (int k = 0; k < kSpokes; ++k) {
+    std::string name =
+        "t" + std::to_string(apex) + std::string(kSpokeNames.at(static_cast<size_t>(k)));
+    drawAlong(addSegment(name, 0, 0, spokeColour(apex, k)), lay::spokeIn(apex, k));
+    spokes_.at(static_cast<size_t>(apex)).at(static_cast<size_t>(k)) = findArray(name);
+  }
+}
+
+Element& form5d::addSegment(const std::string& name, int lo, int hi, int design) {
+  ElementArray& views = addArray(name, Kind::Line, lo, hi);
+  for (Element& line : views) {
+    line.BorderColor = design;
+    designColours_.emplace_back(&line, design);
+  }
+  return views[lo];
+}
+
+void form5d::addCircles() {
+  Shape1_ = &addArray("Shape1", Kind::Shape, 0, kTriangles - 1);
+  Label99_ = &addArray("Label99", Kind::Label, 0, kTriangles - 1);
+  for (int t = 1; t <= kTriangles; ++t) {
+    Element& r = placed(ring(t), lay::ringOf(t));
+    r.Shape = Circle;
+    r.FillStyle = 0;
+    r.FillColor = kCircleFill;
+    r.BorderColor = color::WindowText;
+    r.Visible = false;
+    Element& circle = text(placed(Label99(t - 1), lay::ringOf(t)), "", 9, true);
+    circle.Alignment = AlignCenter;
+    circle.ForeColor = color::Black;
+    circle.Visible = false;
+  }
+}
+
+// Each line is hit at one place in its figure (a spoke of the back bottom
+// right corner, hidden behind the cube, at a second place too); the grid
+// number of a line stands on its hit area.
+void form5d::addHitAreas() {
+  Label1_ = &addArray("Label1", Kind::Label, 0, kLastHitArea);
+  for (Element& area : *Label1_) {
+    area.BackStyle = 0;
+    area.Visible = false;
+    int apex = apexOfSecondHitArea(area.index);
+    if (area.index < kSlots) {
+      placed(area, lay::hitArea(area.index + 1));
+      area.Visible = !isSecondCube(area.index + 1);
+    } else if (apex != 0) {
+      placed(area, lay::hitArea(spokeSlot(apex, 6), true));
+      area.Visible = true;
+    }
+  }
+  Label9_ = &addArray("Label9", Kind::Label, 1, kLastNumber);
+  for (Element& number : *Label9_) {
+    lay::Rect at = lay::hitArea(slotOfNumber(number.index));
+    placed(text(number, std::to_string(number.index), 8, true), at);
+    number.ForeColor = kGridNumbers;
+    number.Alignment = AlignCenter;
+    number.Visible = false;
+  }
+}
+
+// Blue on the left, Red on the right: a name plate, the points, and "Your
+// turn" under the side to move.
+void form5d::addScores() {
+  Element& blue =
+      text(placed(add("Label333", Kind::Label), lay::kBlueName), "Player 1  -  Blue", 10, true);
+  Element& red =
+      text(placed(add("Label444", Kind::Label), lay::kRedName), "Player 2  -  Red", 10, true);
+  blue.BackColor = kBlueColour;
+  red.BackColor = kRedColour;
+  for (Element* plate : {&blue, &red}) {
+    plate->BackStyle = 1;
+    plate->ForeColor = color::White;
+    plate->Alignment = AlignCenter;
+  }
+  Label5 = &text(placed(add("Label5", Kind::Label), lay::kBluePoints), "0", 28, true);
+  Label6 = &text(placed(add("Label6", Kind::Label), lay::kRedPoints), "0", 28, true);
+  Label4 = &text(placed(add("Label4", Kind::Label), lay::kBlueTurn), "Your turn", 10, true);
+  Label3 = &text(placed(add("Label3", Kind::Label), lay::kRedTurn), "Your turn", 10, true);
+  Label5->ForeColor = Label4->ForeColor = kBlueColour;
+  Label6->ForeColor = Label3->ForeColor = kRedColour;
+  for (Element* e : {Label5, Label6, Label4, Label3}) e->Alignment = AlignCenter;
+  Label3->Visible = false;
+}
+
+void form5d::addStatus() {
+  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 11, true);
+  Label33 = &text(placed(add("Label33", Kind::Label), lay::kStatus), "", 12, true);
+  // Its colour is the mover's, black included, so it stands on white.
+  Label33->BackStyle = 1;
+  Label33->BackColor = color::White;
+  Label33->ForeColor = kBlueColour;
+  Label8 = &text(placed(add("Label8", Kind::Label), lay::kMovesLeft), movesLeft(36), 10, true);
+  Label12 = &text(placed(add("Label12", Kind::Label), lay::kLastMove), kLastMove, 10);
+  Label10 = &text(placed(add("Label10", Kind::Label), lay::kNote), kDualCubeNote, 9);
+  Label10->ForeColor = color::Yellow;
+  Label10->Visible = false;
+  Label34 = &text(placed(add("Label34", Kind::Label), lay::kHintCount), "", 10, true);
+  Label34->ForeColor = color::Yellow;
+  Label34->Visible = false;
+  for (Element* e : {Label36, Label33, Label8, Label12, Label10, Label34})
+    e->Alignment = AlignCenter;
+}
+
+void form5d::addBelowFigures() {
+  roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.place = lay::kRoundList});
+  Command1 = &placed(add("Command1", Kind::Button), lay::kNewGame);
+  Command1->Caption = "New game";
+  Option1_ = &addArray("Option1", Kind::Label, 0, 1);
+  placed(text((*Option1_)[0], "( ) Grid off"), lay::kGridOff);
+  placed(text((*Option1_)[1], "( ) Grid on"), lay::kGridOn);
+  text(placed(add("Label16", Kind::Label), lay::kTimeHeading), "Time for a move");
+
+  Label15_ = &addArray("Label15", Kind::Label, 0, 3);
+  const lay::Rect& over = lay::kGameOver;
+  for (Element& label : *Label15_) {
+    double half = over.width / 2;
+    double row = over.height / 2;
+    placed(text(label, label.index % 2 == 0 ? "GAME" : "OVER", 24, true),
+           {over.left + (label.index % 2) * half, over.top + (label.index / 2) * row, half, row});
+    label.ForeColor = kRedColour;
+    label.Alignment = AlignCenter;
+    label.Visible = false;
+  }
+  List3 = &placed(add("List3", Kind::ListBox), lay::kHintList);
+  List3->BackColor = color::White;
+  List3->Visible = false;
+}
+
+void form5d::addMenus() {
+  addMenu("gmg", "", "Game");
+  addMenuArray("gmm", "gmg", 1, 1)[1].Caption = "New Game";
+  addMenu("gsep", "gmg", "-");
+  addExitEntry(*this, "gmg");
+
+  gamz = &addMenu("gamz", "", "Games");
+  game_ = &addMenuArray("game", "gamz", kOmbrel, kSetCountVraskMove);
+  for (Element& entry : *game_) entry.Caption = kGameCaptions.at(static_cast<size_t>(entry.index));
+
+  pwm = &addMenu("pwm", "", "Players");
+  pl_ = &addMenuArray("pl", "pwm", 1, 2);
+  pl(1).Caption = "1 player verus the computer";
+  pl(2).Caption = "2 Players";
+  pl(1).Checked = true;
+
+  pme = &addMenu("pme", "", "Level");
+  lvm_ = &addMenuArray("lvm", "pme", kSingleCube, kDualCube);
+  lvm(kSingleCube).Caption = "Single Cube (Simple)";
+  lvm(kDualCube).Caption = "Dual Cube (more complex)";
+  lvm(kSingleCube).Checked = true;
+
+  addMenu("ks", "", "Options");
+  grid_ = std::make_unique<GridSwitch>(*this, "ks", [this](bool on) { showNumbers(on); });
+  keypad_ = std::make_unique<Keypad>(
+      *this, *grid_, [this] { Command4_Click(); },
+      KeypadConfig{.enterButton = "Command4", .panel = lay::kKeypad, .opener = lay::kKeypadOpener});
+  hidmov = &addMenu("hidmov", "ks", "Hide the rings of played circles that score for nobody");
+  addMenu("osep", "ks", "-");
+  sd_ = std::make_unique<SuddenDeath>(*this,
+                                      SuddenDeathConfig{.interval = 100, .bar = lay::kTimeBar});
+  addOnlineEntries(*this, "ks");
+
+  addMenu("hntm", "", "Hints");
+  hnt = &addMenu("hnt", "hntm", "Hint when no good (non-scoring) moves are left (computer's turn)");
+  shint = &addMenu("shint", "hntm", "Super Hint: How many non-scoring moves left (your turn)");
+  bhint = &addMenu("bhint", "hntm", "Best Hint: Tell you what non-scoring moves are left");
+
+  otherGames_ = std::make_unique<OtherGames>(*this);
+
+  addMenu("hlp", "", "Help");
+  addHelpEntry(*this, "heme", "hlp");
+  addAboutEntry(*this, "abt", "hlp");
+}
+
+void form5d::registerHandlers() {
+  handleIndexed("Label1_Click", [this](int i) { Label1_Click(i); });
+  handleIndexed("Label9_Click", [this](int n) { Label9_Click(n); });
+  handleIndexed("Label99_Click", [this](int i) { Label99_Click(i); });
+  handleIndexed("game_Click", [this](int i) { game_Click(i); });
+  handleIndexed("lvm_Click", [this](int i) { lvm_Click(i); });
+  handleIndexed("pl_Click", [this](int i) { pl_Click(i); });
+  handleIndexed("Option1_Click", [this](int i) { Option1_Click(i); });
+  handleIndexed("gmm_Click", [this](int) { gmm_Click(); });
+  handle("Command1_Click", [this] { gmm_Click(); });
+  handle("shint_Click", [this] { hint_Click(*shint, Label34); });
+  handle("bhint_Click", [this] { hint_Click(*bhint, List3); });
+  handle("hnt_Click", [this] { hint_Click(*hnt, nullptr); });
+  handle("hidmov_Click", [this] { hidmov->Checked = !hidmov->Checked; });
+}
+
+void form5d::registerVariables() {
+  var("gamenum", gamenum);
+  var("level", [this] { return num(board_.level); });
+  var("curplayer", curplayer);
+  var("players", players);
+  var("movesleft", movesleft);
+  var("scoredflag", scoredflag);
+  var("firstturn", firstturn);
+  var("compbusy", compbusy);
+  var("overflag", overflag);
+  var("compflash", compflash);
+  varArray("lnstate", 1, kSlots,
+           [this](int slot) { return num(board_.lnstate.at(static_cast<size_t>(slot))); });
+  varTable("triside", {1, kTriangles}, {1, 3}, [this](int t, int s) {
+    return num(board_.triside.at(static_cast<size_t>(t)).at(static_cast<size_t>(s)));
+  });
+  varTable("triln", {1, kRows}, {1, 3}, [this](int row, int s) {
+    return num(board_.triln.at(static_cast<size_t>(row)).at(static_cast<size_t>(s)));
+  });
+  varTable("lntri", {0, kSlots - 1}, {1, 6}, [this](int index, int k) {
+    const std::vector<int>& rows = lntri_.at(static_cast<size_t>(index));
+    return num(k <= static_cast<int>(rows.size()) ? rows.at(static_cast<size_t>(k - 1)) : 0);
+  });
+}
+
+}  // namespace vrask
