@@ -237,6 +237,7 @@ void form5d::addStatus() {
 
 void form5d::addBelowFigures() {
   roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.place = lay::kRoundList});
+  (*findArray("Label7"))[2].ForeColor = kRedColour;
   Command1 = &placed(add("Command1", Kind::Button), lay::kNewGame);
   Command1->Caption = "New game";
   Option1_ = &addArray("Option1", Kind::Label, 0, 1);

@@ -170,6 +170,7 @@ void form5d::resetRound() {
   curplayer = kBlue;
   // The level can be chosen again for the new round.
   lvm(kSingleCube).Enabled = true;
+  lvm(kDualCube).Enabled = gamenum == kOmbrel;
   lvm_Click(kSingleCube);
   Label10->Visible = false;
   showGameElements();
