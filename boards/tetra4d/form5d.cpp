@@ -22,6 +22,7 @@ namespace lay = tetra4d::layout;
 namespace {
 
 constexpr int kGridNumbers = color::Yellow;
+constexpr double kNumberDrop = 60;
 // The second hit areas of the three spokes of the back bottom right corner,
 // by apex.
 constexpr std::array<int, 3> kSecondHitAreas{300, 470, 390};
@@ -94,8 +95,7 @@ void form5d::Form_Load() {
   registerHandlers();
   registerVariables();
 
-  board_.level = kSingleCube;
-  board_.lnstate = freshLines(kSingleCube);
+  lvm_Click(kSingleCube);
   lntri_ = lineTriangles(board_.triln);
   game_Click(kOmbrel);
   sd_->choose(1);
@@ -158,7 +158,12 @@ void form5d::addCircles() {
     r.FillColor = kCircleFill;
     r.BorderColor = color::WindowText;
     r.Visible = false;
-    Element& circle = text(placed(Label99(t - 1), lay::ringOf(t)), "", 9, true);
+    // A caption stands at the top of its label: the circle's label starts a
+    // little down the ring so that the number sits in its middle.
+    lay::Rect inside = lay::ringOf(t);
+    inside.top += kNumberDrop;
+    inside.height -= kNumberDrop;
+    Element& circle = text(placed(Label99(t - 1), inside), "", 9, true);
     circle.Alignment = AlignCenter;
     circle.ForeColor = color::Black;
     circle.Visible = false;
