@@ -19,13 +19,13 @@ struct Figure {
 
 constexpr double kSide = 2800;
 constexpr double kDepth = 800;
-constexpr double kMiddleSide = 2400;
+constexpr double kMiddleSide = 2560;  // the middle cube fills x 7920 to 11280
 
 // Indexed by figure number: 1 left, 2 right, 3 middle.
 constexpr std::array<Figure, 4> kFigures{{{},
                                           {{3500, 3800}, {900, 4800}},
                                           {{11900, 3800}, {18300, 4800}},
-                                          {{8000, 3700}, {9600, 7500}}}};
+                                          {{7920, 3700}, {9600, 7500}}}};
 
 // The corner of a cube: x 0 left / 1 right, y 0 top / 1 bottom, z 0 front /
 // 1 back.
@@ -116,7 +116,7 @@ Rect ringOf(int t) {
   int apex = apexOfRow(t);
   int e = kFamilyPattern.at(static_cast<size_t>((t - 1) % kEdges)).e;
   Point base = middle(edgeIn(apex, e));
-  return centredOn(along(base, figure(apex).apex, 0.3), kRing);
+  return centredOn(along(base, figure(apex).apex, 0.25), kRing);
 }
 
 }  // namespace vrask::tetra4d::layout

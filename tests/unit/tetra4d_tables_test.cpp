@@ -18,7 +18,7 @@ TEST(Tetra4dTables, TriangleRowsFollowTheFamilyPatternOnEachCubeAndApex) {
   EXPECT_EQ((std::array<int, 4>{0, 3, 27, 24}), triln[1]);    // fronttop, apex 1
   EXPECT_EQ((std::array<int, 4>{0, 8, 39, 38}), triln[36]);   // rightbottom, apex 2
   EXPECT_EQ((std::array<int, 4>{0, 9, 40, 44}), triln[17]);   // leftfront, apex 3
-  EXPECT_EQ((std::array<int, 4>{0, 20, 38, 39}), triln[48]);  // rightbottom, second cube
+  EXPECT_EQ((std::array<int, 4>{0, 20, 39, 38}), triln[48]);  // rightbottom, second cube
   for (int row = 37; row <= kRows; ++row) {
     EXPECT_EQ(triln[static_cast<size_t>(row)][1], triln[static_cast<size_t>(row - 12)][1] + 12);
     EXPECT_EQ(triln[static_cast<size_t>(row)][2], triln[static_cast<size_t>(row - 12)][2]);
