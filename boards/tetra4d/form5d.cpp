@@ -2,11 +2,13 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "boards/tetra4d/captions.h"
 #include "boards/tetra4d/layout.h"
 #include "boards/tetra4d/look.h"
 #include "frame/grid_switch.h"
+#include "frame/helpers.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
 #include "frame/round_list.h"
@@ -37,15 +39,14 @@ constexpr std::array<const char*, 8> kGameCaptions{"",
                                                    "Vrask  (Classic with Vrask move)",
                                                    "Vrask  (Set count with Vrask move)"};
 
-Element& placed(Element& e, const lay::Rect& r) {
-  e.Left = r.left;
-  e.Top = r.top;
-  e.Width = r.width;
-  e.Height = r.height;
-  return e;
+Element& at(Element& e, const lay::Rect& r) {
+  return placed(e, r.left, r.top, r.width, r.height);
 }
 
-Element& text(Element& e, const std::string& caption, double fontSize = 10, bool bold = false) {
+// A label at its place, with its caption on a clear background.
+Element& label(Element& e, const lay::Rect& r, std::string_view caption, double fontSize = 10,
+               bool bold = false) {
+  at(e, r);
   e.Caption = caption;
   e.FontSize = fontSize;
   e.FontBold = bold;
@@ -75,16 +76,9 @@ int apexOfSecondHitArea(int index) {
 
 }  // namespace
 
-form5d::form5d(Program& program) : Form(program, "form5d") {}
-
-form5d::~form5d() = default;
-
+// The design in paint order, then the state of a form just loaded: the
+// single cube, the line game, no time limit.
 void form5d::Form_Load() {
-  Caption = shared().product_title;
-  Width = lay::kFormWidth;
-  Height = lay::kFormHeight;
-  openAboveCentre = 300;
-  BackColor = kBoardColour;
   addFigures();
   addCircles();
   addHitAreas();
@@ -94,6 +88,11 @@ void form5d::Form_Load() {
   addMenus();
   registerHandlers();
   registerVariables();
+  Caption = shared().product_title;
+  Width = lay::kFormWidth;
+  Height = lay::kFormHeight;
+  BackColor = kBoardColour;
+  openAboveCentre = 300;
 
   lvm_Click(kSingleCube);
   lntri_ = lineTriangles(board_.triln);
@@ -152,7 +151,7 @@ void form5d::addCircles() {
   Shape1_ = &addArray("Shape1", Kind::Shape, 0, kTriangles - 1);
   Label99_ = &addArray("Label99", Kind::Label, 0, kTriangles - 1);
   for (int t = 1; t <= kTriangles; ++t) {
-    Element& r = placed(ring(t), lay::ringOf(t));
+    Element& r = at(ring(t), lay::ringOf(t));
     r.Shape = Circle;
     r.FillStyle = 0;
     r.FillColor = kCircleFill;
@@ -163,7 +162,7 @@ void form5d::addCircles() {
     lay::Rect inside = lay::ringOf(t);
     inside.top += kNumberDrop;
     inside.height -= kNumberDrop;
-    Element& circle = text(placed(Label99(t - 1), inside), "", 9, true);
+    Element& circle = label(Label99(t - 1), inside, "", 9, true);
     circle.Alignment = AlignCenter;
     circle.ForeColor = color::Black;
     circle.Visible = false;
@@ -180,17 +179,16 @@ void form5d::addHitAreas() {
     area.Visible = false;
     int apex = apexOfSecondHitArea(area.index);
     if (area.index < kSlots) {
-      placed(area, lay::hitArea(area.index + 1));
+      at(area, lay::hitArea(area.index + 1));
       area.Visible = !isSecondCube(area.index + 1);
     } else if (apex != 0) {
-      placed(area, lay::hitArea(spokeSlot(apex, 6), true));
+      at(area, lay::hitArea(spokeSlot(apex, 6), true));
       area.Visible = true;
     }
   }
   Label9_ = &addArray("Label9", Kind::Label, 1, kLastNumber);
   for (Element& number : *Label9_) {
-    lay::Rect at = lay::hitArea(slotOfNumber(number.index));
-    placed(text(number, std::to_string(number.index), 8, true), at);
+    label(number, lay::hitArea(slotOfNumber(number.index)), std::to_string(number.index), 8, true);
     number.ForeColor = kGridNumbers;
     number.Alignment = AlignCenter;
     number.Visible = false;
@@ -201,9 +199,8 @@ void form5d::addHitAreas() {
 // turn" under the side to move.
 void form5d::addScores() {
   Element& blue =
-      text(placed(add("Label333", Kind::Label), lay::kBlueName), "Player 1  -  Blue", 10, true);
-  Element& red =
-      text(placed(add("Label444", Kind::Label), lay::kRedName), "Player 2  -  Red", 10, true);
+      label(add("Label333", Kind::Label), lay::kBlueName, "Player 1  -  Blue", 10, true);
+  Element& red = label(add("Label444", Kind::Label), lay::kRedName, "Player 2  -  Red", 10, true);
   blue.BackColor = kBlueColour;
   red.BackColor = kRedColour;
   for (Element* plate : {&blue, &red}) {
@@ -211,10 +208,10 @@ void form5d::addScores() {
     plate->ForeColor = color::White;
     plate->Alignment = AlignCenter;
   }
-  Label5 = &text(placed(add("Label5", Kind::Label), lay::kBluePoints), "0", 28, true);
-  Label6 = &text(placed(add("Label6", Kind::Label), lay::kRedPoints), "0", 28, true);
-  Label4 = &text(placed(add("Label4", Kind::Label), lay::kBlueTurn), "Your turn", 10, true);
-  Label3 = &text(placed(add("Label3", Kind::Label), lay::kRedTurn), "Your turn", 10, true);
+  Label5 = &label(add("Label5", Kind::Label), lay::kBluePoints, "0", 28, true);
+  Label6 = &label(add("Label6", Kind::Label), lay::kRedPoints, "0", 28, true);
+  Label4 = &label(add("Label4", Kind::Label), lay::kBlueTurn, "Your turn", 10, true);
+  Label3 = &label(add("Label3", Kind::Label), lay::kRedTurn, "Your turn", 10, true);
   Label5->ForeColor = Label4->ForeColor = kBlueColour;
   Label6->ForeColor = Label3->ForeColor = kRedColour;
   for (Element* e : {Label5, Label6, Label4, Label3}) e->Alignment = AlignCenter;
@@ -222,18 +219,18 @@ void form5d::addScores() {
 }
 
 void form5d::addStatus() {
-  Label36 = &text(placed(add("Label36", Kind::Label), lay::kGameName), "", 11, true);
-  Label33 = &text(placed(add("Label33", Kind::Label), lay::kStatus), "", 12, true);
+  Label36 = &label(add("Label36", Kind::Label), lay::kGameName, "", 11, true);
+  Label33 = &label(add("Label33", Kind::Label), lay::kStatus, "", 12, true);
   // Its colour is the mover's, black included, so it stands on white.
   Label33->BackStyle = 1;
   Label33->BackColor = color::White;
   Label33->ForeColor = kBlueColour;
-  Label8 = &text(placed(add("Label8", Kind::Label), lay::kMovesLeft), movesLeft(36), 10, true);
-  Label12 = &text(placed(add("Label12", Kind::Label), lay::kLastMove), kLastMove, 10);
-  Label10 = &text(placed(add("Label10", Kind::Label), lay::kNote), kDualCubeNote, 9);
+  Label8 = &label(add("Label8", Kind::Label), lay::kMovesLeft, movesLeft(36), 10, true);
+  Label12 = &label(add("Label12", Kind::Label), lay::kLastMove, kLastMove, 10);
+  Label10 = &label(add("Label10", Kind::Label), lay::kNote, kDualCubeNote, 9);
   Label10->ForeColor = color::Yellow;
   Label10->Visible = false;
-  Label34 = &text(placed(add("Label34", Kind::Label), lay::kHintCount), "", 10, true);
+  Label34 = &label(add("Label34", Kind::Label), lay::kHintCount, "", 10, true);
   Label34->ForeColor = color::Yellow;
   Label34->Visible = false;
   for (Element* e : {Label36, Label33, Label8, Label12, Label10, Label34})
@@ -243,25 +240,26 @@ void form5d::addStatus() {
 void form5d::addBelowFigures() {
   roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.place = lay::kRoundList});
   (*findArray("Label7"))[2].ForeColor = kRedColour;
-  Command1 = &placed(add("Command1", Kind::Button), lay::kNewGame);
+  Command1 = &at(add("Command1", Kind::Button), lay::kNewGame);
   Command1->Caption = "New game";
   Option1_ = &addArray("Option1", Kind::Label, 0, 1);
-  placed(text((*Option1_)[0], "( ) Grid off"), lay::kGridOff);
-  placed(text((*Option1_)[1], "( ) Grid on"), lay::kGridOn);
-  text(placed(add("Label16", Kind::Label), lay::kTimeHeading), "Time for a move");
+  label((*Option1_)[0], lay::kGridOff, "( ) Grid off");
+  label((*Option1_)[1], lay::kGridOn, "( ) Grid on");
+  label(add("Label16", Kind::Label), lay::kTimeHeading, "Time for a move");
 
+  // "GAME" "OVER" twice, in two rows.
   Label15_ = &addArray("Label15", Kind::Label, 0, 3);
   const lay::Rect& over = lay::kGameOver;
-  for (Element& label : *Label15_) {
+  for (Element& word : *Label15_) {
     double half = over.width / 2;
     double row = over.height / 2;
-    placed(text(label, label.index % 2 == 0 ? "GAME" : "OVER", 24, true),
-           {over.left + (label.index % 2) * half, over.top + (label.index / 2) * row, half, row});
-    label.ForeColor = kRedColour;
-    label.Alignment = AlignCenter;
-    label.Visible = false;
+    lay::Rect place{over.left + (word.index % 2) * half, over.top + (word.index / 2) * row, half,
+                    row};
+    label(word, place, word.index % 2 == 0 ? "GAME" : "OVER", 24, true).ForeColor = kRedColour;
+    word.Alignment = AlignCenter;
+    word.Visible = false;
   }
-  List3 = &placed(add("List3", Kind::ListBox), lay::kHintList);
+  List3 = &at(add("List3", Kind::ListBox), lay::kHintList);
   List3->BackColor = color::White;
   List3->Visible = false;
 }
@@ -312,13 +310,18 @@ void form5d::addMenus() {
 }
 
 void form5d::registerHandlers() {
-  handleIndexed("Label1_Click", [this](int i) { Label1_Click(i); });
-  handleIndexed("Label9_Click", [this](int n) { Label9_Click(n); });
-  handleIndexed("Label99_Click", [this](int i) { Label99_Click(i); });
-  handleIndexed("game_Click", [this](int i) { game_Click(i); });
-  handleIndexed("lvm_Click", [this](int i) { lvm_Click(i); });
-  handleIndexed("pl_Click", [this](int i) { pl_Click(i); });
-  handleIndexed("Option1_Click", [this](int i) { Option1_Click(i); });
+  using Indexed = void (form5d::*)(int);
+  const std::array<std::pair<const char*, Indexed>, 7> indexed{
+      {{"Label1_Click", &form5d::Label1_Click},
+       {"Label9_Click", &form5d::Label9_Click},
+       {"Label99_Click", &form5d::Label99_Click},
+       {"game_Click", &form5d::game_Click},
+       {"lvm_Click", &form5d::lvm_Click},
+       {"pl_Click", &form5d::pl_Click},
+       {"Option1_Click", &form5d::Option1_Click}}};
+  for (const auto& [name, fn] : indexed)
+    handleIndexed(name, [this, fn = fn](int i) { (this->*fn)(i); });
+  // New stands in the menu and as the button under the round list.
   handleIndexed("gmm_Click", [this](int) { gmm_Click(); });
   handle("Command1_Click", [this] { gmm_Click(); });
   handle("shint_Click", [this] { hint_Click(*shint, Label34); });
@@ -328,16 +331,17 @@ void form5d::registerHandlers() {
 }
 
 void form5d::registerVariables() {
-  var("gamenum", gamenum);
+  const std::array<std::pair<const char*, int*>, 9> counters{{{"gamenum", &gamenum},
+                                                              {"curplayer", &curplayer},
+                                                              {"players", &players},
+                                                              {"movesleft", &movesleft},
+                                                              {"scoredflag", &scoredflag},
+                                                              {"firstturn", &firstturn},
+                                                              {"compbusy", &compbusy},
+                                                              {"overflag", &overflag},
+                                                              {"compflash", &compflash}}};
+  for (const auto& [name, value] : counters) var(name, *value);
   var("level", [this] { return num(board_.level); });
-  var("curplayer", curplayer);
-  var("players", players);
-  var("movesleft", movesleft);
-  var("scoredflag", scoredflag);
-  var("firstturn", firstturn);
-  var("compbusy", compbusy);
-  var("overflag", overflag);
-  var("compflash", compflash);
   varArray("lnstate", 1, kSlots,
            [this](int slot) { return num(board_.lnstate.at(static_cast<size_t>(slot))); });
   varTable("triside", {1, kTriangles}, {1, 3}, [this](int t, int s) {

@@ -16,20 +16,18 @@
 #include <vector>
 
 #include "boards/tetra4d/rules.h"
+#include "frame/grid_switch.h"
+#include "frame/keypad.h"
+#include "frame/other_games.h"
+#include "frame/round_list.h"
+#include "frame/sudden_death.h"
 #include "toolkit/form.h"
 
 namespace vrask {
 
-class GridSwitch;
-class Keypad;
-class OtherGames;
-class RoundList;
-class SuddenDeath;
-
 class form5d : public Form {
  public:
-  explicit form5d(Program& program);
-  ~form5d() override;
+  explicit form5d(Program& program) : Form(program, "form5d") {}
   void Form_Load() override;
 
  private:
@@ -94,12 +92,9 @@ class form5d : public Form {
   void paintLine(int slot, int colour, int width);
   int moverColour() const;
 
-  Element& Label1(int i) { return (*Label1_)[i]; }
-  Element& Label9(int n) { return (*Label9_)[n]; }
-  Element& Label99(int i) { return (*Label99_)[i]; }
-  Element& Shape1(int i) { return (*Shape1_)[i]; }
+  // Triangle t's ring and circle; the level and player entries.
   Element& ring(int t) { return (*Shape1_)[t - 1]; }
-  Element& game(int i) { return (*game_)[i]; }
+  Element& Label99(int i) { return (*Label99_)[i]; }
   Element& lvm(int i) { return (*lvm_)[i]; }
   Element& pl(int i) { return (*pl_)[i]; }
 
@@ -119,25 +114,14 @@ class form5d : public Form {
   ElementArray* game_ = nullptr;
   ElementArray* lvm_ = nullptr;
   ElementArray* pl_ = nullptr;
-  Element* Label3 = nullptr;
-  Element* Label4 = nullptr;
-  Element* Label5 = nullptr;
-  Element* Label6 = nullptr;
-  Element* Label8 = nullptr;
-  Element* Label10 = nullptr;
-  Element* Label12 = nullptr;
-  Element* Label33 = nullptr;
-  Element* Label34 = nullptr;
-  Element* Label36 = nullptr;
-  Element* List3 = nullptr;
-  Element* Command1 = nullptr;
-  Element* gamz = nullptr;
-  Element* pwm = nullptr;
-  Element* pme = nullptr;
-  Element* shint = nullptr;
-  Element* bhint = nullptr;
-  Element* hnt = nullptr;
-  Element* hidmov = nullptr;
+  // Scores and turn, the status lines, the hints, New.
+  Element *Label3 = nullptr, *Label4 = nullptr, *Label5 = nullptr, *Label6 = nullptr;
+  Element *Label8 = nullptr, *Label10 = nullptr, *Label12 = nullptr, *Label33 = nullptr,
+          *Label36 = nullptr;
+  Element *Label34 = nullptr, *List3 = nullptr, *Command1 = nullptr;
+  // Menus the first move closes, and the options read during play.
+  Element *gamz = nullptr, *pwm = nullptr, *pme = nullptr, *shint = nullptr, *bhint = nullptr;
+  Element *hnt = nullptr, *hidmov = nullptr;
 
   std::unique_ptr<SuddenDeath> sd_;
   std::unique_ptr<GridSwitch> grid_;
@@ -148,15 +132,12 @@ class form5d : public Form {
   // --- the game -------------------------------------------------------------
   tetra4d::Board board_;
   tetra4d::LineTriangles lntri_;
-  int gamenum = tetra4d::kOmbrel;
-  int curplayer = tetra4d::kBlue;
-  int players = 1;
-  int movesleft = 36;
-  int scoredflag = 0;
-  int firstturn = 1;
-  int compbusy = 0;
-  int overflag = 0;
-  int compflash = 0;
+  // The round: its game, who plays, who opened it.
+  int gamenum = tetra4d::kOmbrel, players = 1, firstturn = 1;
+  // The turn: the mover, the moves left, whether the last move scored.
+  int curplayer = tetra4d::kBlue, movesleft = 36, scoredflag = 0;
+  // The computer at work, and the round written into the round list.
+  int compbusy = 0, compflash = 0, overflag = 0;
 };
 
 }  // namespace vrask

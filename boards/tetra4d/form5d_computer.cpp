@@ -40,7 +40,7 @@ void form5d::compmove() {
     bool forced = false;
     int slot = quietLine(board_, draw, forced);
     if (forced) {
-      if (hnt->Checked) MsgBox(kNoGoodMoves);
+      if (hnt->Checked) MsgBox(std::string(kNoGoodMoves));
       Label34->Visible = false;
       List3->Visible = false;
     }
@@ -94,7 +94,7 @@ void form5d::computerCircleMove() {
   compbusy = 1;
   Refresh();
   wait(kShowCircle);
-  Label12->Caption = kLastMove + std::to_string(t);
+  Label12->Caption = lastMove(t);
   ring(t).BorderColor = color::Yellow;
   ring(t).BorderWidth = kClosedRing;
   compflash = 1;

@@ -132,7 +132,7 @@ void form5d::showNumbers(bool on) {
 // The hints serve the line game only.
 void form5d::hint_Click(Element& entry, Element* shows) {
   if (gamenum != kOmbrel) {
-    MsgBox(kOmbrelOnly);
+    MsgBox(std::string(kOmbrelOnly));
     return;
   }
   entry.Checked = !entry.Checked;

@@ -32,7 +32,7 @@ void form5d::Label1_Click(int index) {
   int slot = slotOfHitArea(index);
   if (compbusy == 1 || gamenum != kOmbrel || slot == 0) return;
   if (board_.lnstate.at(static_cast<size_t>(slot)) != kFree) {
-    MsgBox(kInvalidMove);
+    MsgBox(std::string(kInvalidMove));
     return;
   }
   setMenusEnabled(false);
@@ -58,8 +58,8 @@ void form5d::playLine(int slot) {
   scoredflag = 0;
   countDownMoves();
   int number = numberOfSlot(slot);
-  Label9(number).Visible = false;
-  Label12->Caption = kLastMove + std::to_string(number);
+  (*Label9_)[number].Visible = false;
+  Label12->Caption = lastMove(number);
   board_.lnstate.at(static_cast<size_t>(slot)) = curplayer;
   paintLine(slot, moverColour(), kPlayedWidth);
   griddle(slot);
@@ -97,7 +97,7 @@ void form5d::Label99_Click(int index) {
   Label10->Visible = false;
   int t = index + 1;
   if (ring(t).BorderWidth == kClosedRing) {
-    MsgBox(kInvalidMove);
+    MsgBox(std::string(kInvalidMove));
     return;
   }
   for (Element* menu : {pwm, gamz, pme}) menu->Enabled = false;
@@ -105,7 +105,7 @@ void form5d::Label99_Click(int index) {
   sd_->resetTime();
   ring(t).BorderColor = color::Yellow;
   ring(t).BorderWidth = kClosedRing;
-  Label12->Caption = kLastMove + std::to_string(t);
+  Label12->Caption = lastMove(t);
   circleMove(t);
 }
 

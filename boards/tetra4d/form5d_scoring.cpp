@@ -95,7 +95,7 @@ void form5d::outtahere() {
   if (last == 0) return;
   ring(last).BorderColor = color::Black;
   ring(last).BorderWidth = kClosedRing;
-  Label12->Caption = kLastMove + std::to_string(last);
+  Label12->Caption = lastMove(last);
   Label33->ForeColor = color::Black;
   Label33->Caption = kVraskMove;
   Label99(last - 1).Visible = false;

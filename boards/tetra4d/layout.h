@@ -15,10 +15,10 @@
 namespace vrask::tetra4d::layout {
 
 struct Rect {
-  double left = 0, top = 0, width = 0, height = 0;
+  double left, top, width, height;
 };
 struct Segment {
-  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+  double x1, y1, x2, y2;
 };
 
 inline constexpr double kFormWidth = 19215;

@@ -19,22 +19,19 @@ inline constexpr int kEdges = 12;
 inline constexpr int kSpokes = 8;
 inline constexpr int kNumbers = 36;  // grid numbers of the lines of one cube and its spokes
 
-// `lnstate` and `triside` values.
-inline constexpr int kFree = 0;
-inline constexpr int kBlue = 1;
-inline constexpr int kRed = 2;
-inline constexpr int kOffBoard = 5;
+// `lnstate` and `triside` values: free, a player's, not on the board.
+enum LineState : int { kFree = 0, kBlue = 1, kRed = 2, kOffBoard = 5 };
 
-// Levels.
-inline constexpr int kSingleCube = 1;
-inline constexpr int kDualCube = 2;
-
-// The entries of the menu `game` (2 and 5 are separators).
-inline constexpr int kOmbrel = 1;
-inline constexpr int kClassic = 3;
-inline constexpr int kSetCount = 4;
-inline constexpr int kClassicVraskMove = 6;
-inline constexpr int kSetCountVraskMove = 7;
+// The levels (`lvm`) and the entries of the menu `game` (2 and 5 are
+// separators).
+enum Level : int { kSingleCube = 1, kDualCube = 2 };
+enum Game : int {
+  kOmbrel = 1,
+  kClassic = 3,
+  kSetCount = 4,
+  kClassicVraskMove = 6,
+  kSetCountVraskMove = 7
+};
 
 // Cube edges by position 1..12 in their group, spokes by corner 0..7.
 extern const std::array<std::string_view, kEdges + 1> kEdgeNames;
