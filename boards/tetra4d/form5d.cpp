@@ -253,8 +253,8 @@ void form5d::addBelowFigures() {
   for (Element& word : *Label15_) {
     double half = over.width / 2;
     double row = over.height / 2;
-    lay::Rect place{over.left + (word.index % 2) * half, over.top + (word.index / 2) * row, half,
-                    row};
+    lay::Rect place{over.left + (word.index % 2) * half, over.top + (word.index >= 2 ? row : 0.0),
+                    half, row};
     label(word, place, word.index % 2 == 0 ? "GAME" : "OVER", 24, true).ForeColor = kRedColour;
     word.Alignment = AlignCenter;
     word.Visible = false;

@@ -55,7 +55,7 @@ class Soak {
     ElementArray& array = *form().findArray(name);
     return array[i < 0 ? array.lo() : i];
   }
-  double var(const std::string& name, std::vector<int> at = {}) {
+  double var(const std::string& name, const std::vector<int>& at = {}) {
     return std::get<double>(form().variables().at(name).get(at));
   }
   int chance(int n) { return std::uniform_int_distribution<int>(0, n - 1)(rng_); }
