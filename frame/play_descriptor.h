@@ -52,6 +52,10 @@ struct PlayDescriptor {
   // Whether target `n` of kind `kind` has been played.
   std::function<bool(Form&, size_t kind, int n)> taken;
   std::function<bool(Form&)> finished;
+  // The number a person types to play target `n` of kind `kind`, where it is
+  // not the target's index (a board whose circles count from 0); unset, the
+  // index. It grows with the index.
+  std::function<int(size_t kind, int n)> typedNumber;
 
   // The points of Blue and Red as the board shows them, and what is wrong when
   // they disagree with the board's drawn state (nothing when they agree).

@@ -157,8 +157,11 @@ class SoakPlayer {
     int n = roll <= 2   ? all.lo() + chance(all.hi() - all.lo() + 1) - 1
             : roll == 4 ? 0
                         : pick(k, roll != 3);
-    std::string text = roll != 4  ? std::to_string(n)
-                       : oneIn(2) ? std::to_string(all.hi() + chance(200))
+    auto number = [&](int target) {
+      return play_.typedNumber ? play_.typedNumber(k, target) : target;
+    };
+    std::string text = roll != 4  ? std::to_string(number(n))
+                       : oneIn(2) ? std::to_string(number(all.hi()) + chance(200))
                                   : kJunk[static_cast<size_t>(chance(7) - 1)];
     if (roll == 4 && !typed) return;
     if (roll != 4 && n == 0) return;
