@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <random>
 #include <string>
 #include <vector>
@@ -129,14 +130,16 @@ class SoakPlayer {
   ElementArray& targets(size_t kind) { return *form().findArray(play_.kinds.at(kind).targets); }
   bool isFree(size_t kind, int n) { return !play_.taken(form(), kind, n); }
 
-  // A target that shows and is free (or taken); 0 when there is none.
+  // A target that shows and is free (or taken); kNoTarget when there is none
+  // (target arrays may start at 0).
+  static constexpr int kNoTarget = std::numeric_limits<int>::min();
   int pick(size_t kind, bool free) {
     std::vector<int> found;
     for (const Element& target : targets(kind)) {
       if (target.Visible && isFree(kind, target.index) == free) found.push_back(target.index);
     }
     EXPECT_TRUE(!free || !found.empty()) << "no move left in a running game";
-    return found.empty() ? 0 : found[static_cast<size_t>(chance(int(found.size())) - 1)];
+    return found.empty() ? kNoTarget : found[static_cast<size_t>(chance(int(found.size())) - 1)];
   }
 
   // Mostly a free target, clicked or typed; else a taken one, any number in range
@@ -164,7 +167,7 @@ class SoakPlayer {
                        : oneIn(2) ? std::to_string(number(all.hi()) + chance(200))
                                   : kJunk[static_cast<size_t>(chance(7) - 1)];
     if (roll == 4 && !typed) return;
-    if (roll != 4 && n == 0) return;
+    if (roll != 4 && n == kNoTarget) return;
     bool shows = roll != 4 && all[n].Visible && k == playing;
     bool move = shows && isFree(k, n);
     if (!move && snapshotsLeft_-- <= 0) return;
