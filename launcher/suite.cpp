@@ -4,6 +4,8 @@
 #include "boards/flatland/play.h"
 #include "boards/zorvex/play.h"
 #include "boards/zorvex/zorvex.h"
+#include "boards/tetra4d/form5d.h"
+#include "boards/tetra4d/play.h"
 #include "frame/about_box.h"
 #include "launcher/title.h"
 
@@ -24,6 +26,7 @@ const std::vector<Board>& boards() {
   static const std::vector<Board> list{
       {factory<Form1large>(), flatland::play()},
       {factory<zorvex>(), cube::play()},
+      {factory<form5d>(), tetra4d::play()},
   };
   return list;
 }

@@ -23,10 +23,6 @@ inline constexpr std::string_view kDualCubeNote =
     "possible moves - Inside the middle cube is the common outside of both the left and the "
     "right cubes";
 
-inline std::string lastMove(int n) {
-  return std::string(kLastMove) + std::to_string(n);
-}
-
 inline std::string movesLeft(int n) {
   return n == 1 ? "1 move left" : std::to_string(n) + " moves left";
 }

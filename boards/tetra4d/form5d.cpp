@@ -39,26 +39,10 @@ constexpr std::array<const char*, 8> kGameCaptions{"",
                                                    "Vrask  (Classic with Vrask move)",
                                                    "Vrask  (Set count with Vrask move)"};
 
-Element& at(Element& e, const lay::Rect& r) {
-  return placed(e, r.left, r.top, r.width, r.height);
-}
-
-// A label at its place, with its caption on a clear background.
-Element& label(Element& e, const lay::Rect& r, std::string_view caption, double fontSize = 10,
+// A label at its place, with its caption on the form's background.
+Element& label(Element& e, const Rect& r, std::string_view caption, double fontSize = 10,
                bool bold = false) {
-  at(e, r);
-  e.Caption = caption;
-  e.FontSize = fontSize;
-  e.FontBold = bold;
-  e.BackStyle = 0;
-  return e;
-}
-
-void drawAlong(Element& line, const lay::Segment& s) {
-  line.X1 = s.x1;
-  line.Y1 = s.y1;
-  line.X2 = s.x2;
-  line.Y2 = s.y2;
+  return captioned(placed(e, r), std::string(caption), fontSize, bold);
 }
 
 // The uprights of a cube: leftfront, rightfront, leftback, rightback.
@@ -86,9 +70,17 @@ void form5d::Form_Load() {
   addStatus();
   addBelowFigures();
   addMenus();
+  flow_ = std::make_unique<TurnFlow>(*this, *roundList_, *keypad_,
+                                     TurnFlowNames{.bluePoints = {"Label5", std::nullopt},
+                                                   .redPoints = {"Label6", std::nullopt},
+                                                   .blueTurn = {"Label4", std::nullopt},
+                                                   .redTurn = {"Label3", std::nullopt},
+                                                   .lastMove = "Label12",
+                                                   .lastMoveCaption = std::string(kLastMove),
+                                                   .gameMenus = {"pwm", "gamz", "pme"}});
   registerHandlers();
   registerVariables();
-  Caption = shared().product_title;
+  Caption = shared().text(shared::kProductTitle);
   Width = lay::kFormWidth;
   Height = lay::kFormHeight;
   BackColor = kBoardColour;
@@ -108,7 +100,7 @@ void form5d::addFigures() {
   for (int e = 1; e <= kEdges; ++e) {
     Element& line = addSegment("c5" + std::string(kEdgeNames.at(static_cast<size_t>(e))), 1, 1,
                                isUpright(e) ? kMiddleUpright : color::White);
-    drawAlong(line, lay::edgeIn(3, e));
+    placedLine(line, lay::edgeIn(3, e));
     middle_.at(static_cast<size_t>(e)) = findArray(line.name);
   }
   for (int apex = 1; apex <= 3; ++apex) addSpokes(apex);
@@ -124,7 +116,7 @@ void form5d::addCube(int cube) {
         "c" + std::to_string(cube) + std::string(kEdgeNames.at(static_cast<size_t>(e)));
     addSegment(name, 0, 1, color::White);
     ElementArray* views = findArray(name);
-    for (Element& line : *views) drawAlong(line, lay::edgeIn(cube, e));
+    for (Element& line : *views) placedLine(line, lay::edgeIn(cube, e));
     cubes_.at(static_cast<size_t>(cube)).at(static_cast<size_t>(e)) = views;
   }
 }
@@ -133,7 +125,7 @@ void form5d::addSpokes(int apex) {
   for (int k = 0; k < kSpokes; ++k) {
     std::string name =
         "t" + std::to_string(apex) + std::string(kSpokeNames.at(static_cast<size_t>(k)));
-    drawAlong(addSegment(name, 0, 0, spokeColour(apex, k)), lay::spokeIn(apex, k));
+    placedLine(addSegment(name, 0, 0, spokeColour(apex, k)), lay::spokeIn(apex, k));
     spokes_.at(static_cast<size_t>(apex)).at(static_cast<size_t>(k)) = findArray(name);
   }
 }
@@ -151,7 +143,7 @@ void form5d::addCircles() {
   Shape1_ = &addArray("Shape1", Kind::Shape, 0, kTriangles - 1);
   Label99_ = &addArray("Label99", Kind::Label, 0, kTriangles - 1);
   for (int t = 1; t <= kTriangles; ++t) {
-    Element& r = at(ring(t), lay::ringOf(t));
+    Element& r = placed(ring(t), lay::ringOf(t));
     r.Shape = Circle;
     r.FillStyle = 0;
     r.FillColor = kCircleFill;
@@ -179,10 +171,10 @@ void form5d::addHitAreas() {
     area.Visible = false;
     int apex = apexOfSecondHitArea(area.index);
     if (area.index < kSlots) {
-      at(area, lay::hitArea(area.index + 1));
+      placed(area, lay::hitArea(area.index + 1));
       area.Visible = !isSecondCube(area.index + 1);
     } else if (apex != 0) {
-      at(area, lay::hitArea(spokeSlot(apex, 6), true));
+      placed(area, lay::hitArea(spokeSlot(apex, 6), true));
       area.Visible = true;
     }
   }
@@ -240,7 +232,7 @@ void form5d::addStatus() {
 void form5d::addBelowFigures() {
   roundList_ = std::make_unique<RoundList>(*this, RoundListConfig{.place = lay::kRoundList});
   (*findArray("Label7"))[2].ForeColor = kRedColour;
-  Command1 = &at(add("Command1", Kind::Button), lay::kNewGame);
+  Command1 = &placed(add("Command1", Kind::Button), lay::kNewGame);
   Command1->Caption = "New game";
   Option1_ = &addArray("Option1", Kind::Label, 0, 1);
   label((*Option1_)[0], lay::kGridOff, "( ) Grid off");
@@ -259,7 +251,7 @@ void form5d::addBelowFigures() {
     word.Alignment = AlignCenter;
     word.Visible = false;
   }
-  List3 = &at(add("List3", Kind::ListBox), lay::kHintList);
+  List3 = &placed(add("List3", Kind::ListBox), lay::kHintList);
   List3->BackColor = color::White;
   List3->Visible = false;
 }

@@ -21,6 +21,7 @@
 #include "frame/other_games.h"
 #include "frame/round_list.h"
 #include "frame/sudden_death.h"
+#include "frame/turn_flow.h"
 #include "toolkit/form.h"
 
 namespace vrask {
@@ -128,6 +129,7 @@ class form5d : public Form {
   std::unique_ptr<Keypad> keypad_;
   std::unique_ptr<OtherGames> otherGames_;
   std::unique_ptr<RoundList> roundList_;
+  std::unique_ptr<TurnFlow> flow_;
 
   // --- the game -------------------------------------------------------------
   tetra4d::Board board_;

@@ -13,7 +13,6 @@ using namespace tetra4d;
 
 namespace {
 
-constexpr double kThink = 0.5;
 constexpr double kShowLine = 1.5;
 constexpr double kShowCircle = 2;
 
@@ -26,8 +25,7 @@ void form5d::compmove() {
   compbusy = 1;
   Pick draw = [this](int n) { return pick(n); };
   while (overflag == 0) {
-    Refresh();
-    waitWithEvents(kThink);
+    flow_->computerPause();
     scoredflag = 0;
     int capture = captureLine(board_);
     if (capture != 0) {
@@ -94,7 +92,7 @@ void form5d::computerCircleMove() {
   compbusy = 1;
   Refresh();
   wait(kShowCircle);
-  Label12->Caption = lastMove(t);
+  flow_->showLastMove(t);
   ring(t).BorderColor = color::Yellow;
   ring(t).BorderWidth = kClosedRing;
   compflash = 1;

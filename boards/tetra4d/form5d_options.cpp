@@ -47,7 +47,7 @@ void form5d::game_Click(int i) {
   if (i != kOmbrel && board_.level == kDualCube) lvm_Click(kSingleCube);
   lvm(kDualCube).Enabled = i == kOmbrel && lvm(kSingleCube).Enabled;
   showGameElements();
-  Label33->Caption = i == kOmbrel ? kClickALine : kClickACircle;
+  Label33->Caption = std::string(i == kOmbrel ? kClickALine : kClickACircle);
 }
 
 // The line game shows the first cube's view 0 and the hit areas, the circle
@@ -162,11 +162,9 @@ void form5d::resetRound() {
     ring(t).BorderWidth = 1;
     ring(t).BorderColor = color::WindowText;
   }
-  Label5->Caption = "0";
-  Label6->Caption = "0";
-  for (Element& label : *Label15_) label.Visible = false;
+  flow_->zeroScores();
+  flow_->startNewGame();
   setMenusEnabled(true);
-  Label12->Caption = kLastMove;
   curplayer = kBlue;
   // The level can be chosen again for the new round.
   lvm(kSingleCube).Enabled = true;
@@ -175,10 +173,6 @@ void form5d::resetRound() {
   Label10->Visible = false;
   showGameElements();
   showNumbers(grid_->on());
-  if (keypad_->on()) {
-    keypad_->text().Text.clear();
-    keypad_->focusText();
-  }
   sd_->stop();
   sd_->fullBar();
 }
@@ -186,17 +180,13 @@ void form5d::resetRound() {
 void form5d::openRound() {
   firstturn = firstturn == 1 ? 0 : 1;
   if (firstturn == 1) {
-    Label4->Visible = true;
-    Label3->Visible = false;
-    Label33->Caption = kBlueTurn;
-    Label33->ForeColor = kBlueColour;
+    flow_->showTurn(Side::Blue);
+    flow_->say(std::string(kBlueTurn), kBlueColour);
     return;
   }
   curplayer = kRed;
-  Label4->Visible = false;
-  Label3->Visible = true;
-  Label33->Caption = kRedTurn;
-  Label33->ForeColor = kRedColour;
+  flow_->showTurn(Side::Red);
+  flow_->say(std::string(kRedTurn), kRedColour);
   if (players != 1) return;
   // The computer opens at random; for this one move the game counts as two
   // players', so that no reply of its own follows.
@@ -211,7 +201,9 @@ void form5d::openRound() {
 }
 
 void form5d::setMenusEnabled(bool on) {
-  for (Element* menu : {pwm, gamz, pme, shint, bhint}) menu->Enabled = on;
+  flow_->setGameMenusEnabled(on);
+  shint->Enabled = on;
+  bhint->Enabled = on;
 }
 
 }  // namespace vrask

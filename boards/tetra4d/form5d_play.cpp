@@ -28,13 +28,13 @@ int slotOfHitArea(int index) {
 
 // A line of the line game. Lines taken stay with their taker.
 void form5d::Label1_Click(int index) {
-  Label10->Visible = false;
   int slot = slotOfHitArea(index);
   if (compbusy == 1 || gamenum != kOmbrel || slot == 0) return;
   if (board_.lnstate.at(static_cast<size_t>(slot)) != kFree) {
     MsgBox(std::string(kInvalidMove));
     return;
   }
+  Label10->Visible = false;
   setMenusEnabled(false);
   sd_->stop();
   sd_->resetTime();
@@ -59,7 +59,7 @@ void form5d::playLine(int slot) {
   countDownMoves();
   int number = numberOfSlot(slot);
   (*Label9_)[number].Visible = false;
-  Label12->Caption = lastMove(number);
+  flow_->showLastMove(number);
   board_.lnstate.at(static_cast<size_t>(slot)) = curplayer;
   paintLine(slot, moverColour(), kPlayedWidth);
   griddle(slot);
@@ -70,17 +70,13 @@ void form5d::playLine(int slot) {
 void form5d::passLineTurn() {
   if (curplayer == kBlue) {
     curplayer = kRed;
-    Label4->Visible = false;
-    Label3->Visible = true;
-    Label33->Caption = kRedTurn;
-    Label33->ForeColor = kRedColour;
+    flow_->showTurn(Side::Red);
+    flow_->say(std::string(kRedTurn), kRedColour);
     if (players == 1 && movesleft > 0) compmove();
   } else {
     curplayer = kBlue;
-    Label33->Caption = kBlueTurn;
-    Label33->ForeColor = kBlueColour;
-    Label4->Visible = true;
-    Label3->Visible = false;
+    flow_->say(std::string(kBlueTurn), kBlueColour);
+    flow_->showTurn(Side::Blue);
   }
 }
 
@@ -94,18 +90,18 @@ void form5d::Label99_Click(int index) {
   // The computer's pauses let events through; its turn is not to be
   // interrupted.
   if (compbusy == 1 || gamenum == kOmbrel || index < 0 || index >= kTriangles) return;
-  Label10->Visible = false;
   int t = index + 1;
   if (ring(t).BorderWidth == kClosedRing) {
     MsgBox(std::string(kInvalidMove));
     return;
   }
-  for (Element* menu : {pwm, gamz, pme}) menu->Enabled = false;
+  Label10->Visible = false;
+  flow_->setGameMenusEnabled(false);
   sd_->stop();
   sd_->resetTime();
   ring(t).BorderColor = color::Yellow;
   ring(t).BorderWidth = kClosedRing;
-  Label12->Caption = lastMove(t);
+  flow_->showLastMove(t);
   circleMove(t);
 }
 
@@ -113,17 +109,9 @@ void form5d::Label99_Click(int index) {
 // is the one whose "Your turn" shows.
 void form5d::circleMove(int t) {
   countDownMoves();
-  int code = kRed;
-  if (Label4->Visible) {
-    code = kBlue;
-    Label4->Visible = false;
-    Label3->Visible = true;
-    Label33->Caption = kRedTurn;
-  } else {
-    Label4->Visible = true;
-    Label3->Visible = false;
-    Label33->Caption = kBlueTurn;
-  }
+  int code = Label4->Visible ? kBlue : kRed;
+  flow_->showTurn(code == kBlue ? Side::Red : Side::Blue);
+  Label33->Caption = std::string(code == kBlue ? kRedTurn : kBlueTurn);
   Label99(t - 1).Visible = false;
   paintTriangle(board_, t, code);
   judgeCircles();
@@ -136,15 +124,17 @@ void form5d::circleMove(int t) {
   if (movesleft == 1 && (gamenum == kClassicVraskMove || gamenum == kSetCountVraskMove))
     outtahere();
   if (movesleft == 0) endRound();
-  // After the Vrask move the round is over and the status keeps its black.
-  if (overflag == 1) return;
+  // After the Vrask move the status keeps its black; after the end nobody
+  // moves.
   bool redNext = !Label4->Visible;
-  Label33->ForeColor = redNext ? kRedColour : kBlueColour;
-  if (redNext && players == 1) computerCircleMove();
+  if (flow_->status() != kVraskMove) Label33->ForeColor = redNext ? kRedColour : kBlueColour;
+  if (overflag == 0 && redNext && players == 1) computerCircleMove();
 }
 
-// The keypad's "enter": a line number in the line game, a circle number in
-// the others. Anything else is dropped without a word.
+// The keypad's "enter": a line's grid number in the line game, a circle's
+// number in the others. A number is a move only while its line is free or its
+// circle open, as its label is then on the board, whether the grid shows it or
+// not; anything else is dropped without a word.
 void form5d::Command4_Click() {
   if (compbusy == 1) return;
   Element& box = keypad_->text();
@@ -153,8 +143,9 @@ void form5d::Command4_Click() {
   if (std::floor(n) != n || n < 1) return;
   int number = static_cast<int>(n);
   if (gamenum == kOmbrel) {
-    if (number <= kLastNumber) Label9_Click(number);
-  } else if (number <= kTriangles) {
+    int slot = slotOfNumber(number);
+    if (slot != 0 && board_.lnstate.at(static_cast<size_t>(slot)) == kFree) Label9_Click(number);
+  } else if (number <= kTriangles && Label99(number - 1).Visible) {
     Label99_Click(number - 1);
   }
 }

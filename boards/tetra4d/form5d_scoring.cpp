@@ -15,10 +15,6 @@ namespace {
 
 constexpr double kFlashTime = 1;
 
-void addPoint(Element& score) {
-  score.Caption = std::to_string(static_cast<int>(Val(score.Caption)) + 1);
-}
-
 }  // namespace
 
 // The sides the line gives; whoever plays a triangle's third line gets it,
@@ -32,7 +28,7 @@ void form5d::griddle(int slot) {
 // The triangle scores for the mover and its lines show yellow for a second.
 void form5d::flash(int t) {
   scoredflag = 1;
-  addPoint(curplayer == kBlue ? *Label5 : *Label6);
+  flow_->addPoints(curplayer == kBlue ? Side::Blue : Side::Red, 1);
   std::vector<Element*> lines = triangleSegments(t);
   std::vector<int> colours;
   for (Element* line : lines) {
@@ -49,14 +45,13 @@ void form5d::flash(int t) {
 // one side's. In the Classic game a triangle whole in one colour, or painted
 // all round in two, is closed for good.
 void form5d::judgeCircles() {
-  Label5->Caption = "0";
-  Label6->Caption = "0";
+  flow_->zeroScores();
   bool classic = gamenum == kClassic;
   for (int t = 1; t <= kTriangles; ++t) {
     Element& r = ring(t);
     int owner = ownerOf(board_, t);
     if (owner != 0) {
-      addPoint(owner == kBlue ? *Label5 : *Label6);
+      flow_->addPoints(owner == kBlue ? Side::Blue : Side::Red, 1);
       r.BorderColor = owner == kBlue ? kBlueColour : kRedColour;
       r.Visible = true;
       if (classic) r.BorderWidth = kClosedRing;
@@ -76,7 +71,7 @@ void form5d::judgeCircles() {
 // The circle games paint a triangle's lines and leave them: yellow while the
 // computer shows its choice, else in the colour of the status label.
 void form5d::newflash(int t) {
-  int colour = compflash == 1 ? color::Yellow : Label33->ForeColor;
+  int colour = compflash == 1 ? color::Yellow : flow_->moverColour();
   for (int s = 1; s <= 3; ++s) {
     paintLine(board_.triln.at(static_cast<size_t>(t)).at(static_cast<size_t>(s)) + 1, colour,
               kPlayedWidth);
@@ -95,9 +90,8 @@ void form5d::outtahere() {
   if (last == 0) return;
   ring(last).BorderColor = color::Black;
   ring(last).BorderWidth = kClosedRing;
-  Label12->Caption = lastMove(last);
-  Label33->ForeColor = color::Black;
-  Label33->Caption = kVraskMove;
+  flow_->showLastMove(last);
+  flow_->say(std::string(kVraskMove), color::Black);
   Label99(last - 1).Visible = false;
   paintTriangle(board_, last, 0);
   judgeCircles();
@@ -112,11 +106,7 @@ void form5d::outtahere() {
 void form5d::endRound() {
   if (overflag == 1) return;
   sd_->stop();
-  roundList_->recordGame(static_cast<int>(Val(Label5->Caption)),
-                         static_cast<int>(Val(Label6->Caption)));
-  for (Element& label : *Label15_) label.Visible = true;
-  setDefaultButton(*this, *Command1);
-  SetFocus(*Command1);
+  flow_->endGame();
   overflag = 1;
 }
 

@@ -14,12 +14,8 @@
 
 namespace vrask::tetra4d::layout {
 
-struct Rect {
-  double left, top, width, height;
-};
-struct Segment {
-  double x1, y1, x2, y2;
-};
+using vrask::Rect;
+using vrask::Segment;
 
 inline constexpr double kFormWidth = 19215;
 inline constexpr double kFormHeight = 10815;
