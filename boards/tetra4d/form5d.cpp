@@ -45,6 +45,15 @@ Element& label(Element& e, const Rect& r, std::string_view caption, double fontS
   return captioned(placed(e, r), std::string(caption), fontSize, bold);
 }
 
+// The drawn segments of a line are named for their cube or apex and the
+// edge or corner: `c1fronttop`, `c5lefttop`, `t3rightback`.
+std::string lineName(std::string_view kind, int number, std::string_view part) {
+  std::string name(kind);
+  name += std::to_string(number);
+  name += part;
+  return name;
+}
+
 // The uprights of a cube: leftfront, rightfront, leftback, rightback.
 bool isUpright(int e) {
   return e == 5 || e == 6 || e == 10 || e == 11;
@@ -98,7 +107,7 @@ void form5d::addFigures() {
   addCube(1);
   addCube(2);
   for (int e = 1; e <= kEdges; ++e) {
-    Element& line = addSegment("c5" + std::string(kEdgeNames.at(static_cast<size_t>(e))), 1, 1,
+    Element& line = addSegment(lineName("c", 5, kEdgeNames.at(static_cast<size_t>(e))), 1, 1,
                                isUpright(e) ? kMiddleUpright : color::White);
     placedLine(line, lay::edgeIn(3, e));
     middle_.at(static_cast<size_t>(e)) = findArray(line.name);
@@ -112,8 +121,7 @@ void form5d::addFigures() {
 // in the smaller.
 void form5d::addCube(int cube) {
   for (int e = 1; e <= kEdges; ++e) {
-    std::string name =
-        "c" + std::to_string(cube) + std::string(kEdgeNames.at(static_cast<size_t>(e)));
+    std::string name = lineName("c", cube, kEdgeNames.at(static_cast<size_t>(e)));
     addSegment(name, 0, 1, color::White);
     ElementArray* views = findArray(name);
     for (Element& line : *views) placedLine(line, lay::edgeIn(cube, e));
@@ -123,8 +131,7 @@ void form5d::addCube(int cube) {
 
 void form5d::addSpokes(int apex) {
   for (int k = 0; k < kSpokes; ++k) {
-    std::string name =
-        "t" + std::to_string(apex) + std::string(kSpokeNames.at(static_cast<size_t>(k)));
+    std::string name = lineName("t", apex, kSpokeNames.at(static_cast<size_t>(k)));
     placedLine(addSegment(name, 0, 0, spokeColour(apex, k)), lay::spokeIn(apex, k));
     spokes_.at(static_cast<size_t>(apex)).at(static_cast<size_t>(k)) = findArray(name);
   }
