@@ -124,15 +124,17 @@ class form5d : public Form {
   Element *gamz = nullptr, *pwm = nullptr, *pme = nullptr, *shint = nullptr, *bhint = nullptr;
   Element *hnt = nullptr, *hidmov = nullptr;
 
-  std::unique_ptr<SuddenDeath> sd_;
+  // The frame's services, in the order the load makes them.
+  std::unique_ptr<RoundList> roundList_;
   std::unique_ptr<GridSwitch> grid_;
   std::unique_ptr<Keypad> keypad_;
+  std::unique_ptr<SuddenDeath> sd_;
   std::unique_ptr<OtherGames> otherGames_;
-  std::unique_ptr<RoundList> roundList_;
-  std::unique_ptr<TurnFlow> flow_;
 
   // --- the game -------------------------------------------------------------
   tetra4d::Board board_;
+  // The status, points and turn markers, the last move, the end of a round.
+  std::unique_ptr<TurnFlow> flow_;
   tetra4d::LineTriangles lntri_;
   // The round: its game, who plays, who opened it.
   int gamenum = tetra4d::kOmbrel, players = 1, firstturn = 1;

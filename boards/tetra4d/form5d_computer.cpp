@@ -11,13 +11,6 @@ namespace vrask {
 
 using namespace tetra4d;
 
-namespace {
-
-constexpr double kShowLine = 1.5;
-constexpr double kShowCircle = 2;
-
-}  // namespace
-
 // Red's whole turn in the line game: it takes every triangle it can, the
 // highest first, then plays a line that gives nothing away if one is left.
 // `compbusy` holds a person's clicks out all through, the pauses included.

@@ -11,6 +11,11 @@ inline constexpr int kMiddleUpright = 14737632;  // the middle cube's uprights, 
 inline constexpr int kPlayedWidth = 4;           // a played line; a free one is 1 wide
 inline constexpr int kClosedRing = 8;            // the ring of a played or closed circle
 
+// How long the computer shows its line, and its circle before and after it
+// lights up, in seconds.
+inline constexpr double kShowLine = 1.5;
+inline constexpr double kShowCircle = 2;
+
 // A mid grey on which the white cube, every spoke colour, Blue, Red and the
 // black of the Vrask move all show, and the light inside of a circle, on
 // which its number and ring read clearly.
