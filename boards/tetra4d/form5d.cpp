@@ -327,6 +327,8 @@ void form5d::registerHandlers() {
   handle("bhint_Click", [this] { hint_Click(*bhint, List3); });
   handle("hnt_Click", [this] { hint_Click(*hnt, nullptr); });
   handle("hidmov_Click", [this] { hidmov->Checked = !hidmov->Checked; });
+  handle("List3_Click", [this] { List3_Click(); });
+  handle("List3_DblClick", [this] { List3_DblClick(); });
 }
 
 void form5d::registerVariables() {

@@ -83,6 +83,8 @@ class form5d : public Form {
   void flmove(int slot);
   void slable(int index);
   void compcheck();
+  void List3_Click();
+  void List3_DblClick();
   void computerCircleMove();
 
   // --- the drawn lines ------------------------------------------------------

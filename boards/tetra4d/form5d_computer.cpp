@@ -98,4 +98,17 @@ void form5d::computerCircleMove() {
   if (players == 1 && overflag == 0) sd_->restart();
 }
 
+// A safe line of the list goes to the keypad, ready to be entered; a double
+// click enters it.
+void form5d::List3_Click() {
+  if (List3->ListIndex < 0 || List3->ListIndex >= List3->ListCount()) return;
+  if (!keypad_->on()) keypad_->open();
+  keypad_->text().Text = List3->List.at(static_cast<size_t>(List3->ListIndex));
+}
+
+void form5d::List3_DblClick() {
+  List3_Click();
+  Command4_Click();
+}
+
 }  // namespace vrask
