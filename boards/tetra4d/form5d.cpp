@@ -242,8 +242,8 @@ void form5d::addBelowFigures() {
   Command1 = &placed(add("Command1", Kind::Button), lay::kNewGame);
   Command1->Caption = "New game";
   Option1_ = &addArray("Option1", Kind::Label, 0, 1);
-  label((*Option1_)[0], lay::kGridOff, "( ) Grid off");
-  label((*Option1_)[1], lay::kGridOn, "( ) Grid on");
+  label((*Option1_)[0], lay::kGridOff, "Grid off");
+  label((*Option1_)[1], lay::kGridOn, "Grid on");
   label(add("Label16", Kind::Label), lay::kTimeHeading, "Time for a move");
 
   // "GAME" "OVER" twice, in two rows.

@@ -117,8 +117,12 @@ void form5d::Option1_Click(int i) {
 // The numbers a typed move needs: triangle numbers in the circles, or the
 // numbers of the lines still free in the line game.
 void form5d::showNumbers(bool on) {
-  (*Option1_)[0].Caption = on ? "( ) Grid off" : "(*) Grid off";
-  (*Option1_)[1].Caption = on ? "(*) Grid on" : "( ) Grid on";
+  // The choice in force reads bold and bright.
+  for (Element& option : *Option1_) {
+    bool chosen = (option.index == 1) == on;
+    option.FontBold = chosen;
+    option.ForeColor = chosen ? color::Yellow : color::WindowText;
+  }
   bool lines = gamenum == kOmbrel;
   for (int t = 1; t <= kTriangles; ++t) {
     Label99(t - 1).Caption = on && !lines ? std::to_string(t) : "";
