@@ -202,6 +202,7 @@ void form5d::openRound() {
     Label99_Click(n - 1);
   }
   players = 1;
+  sd_->restart();
 }
 
 void form5d::setMenusEnabled(bool on) {
