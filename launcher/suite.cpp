@@ -2,10 +2,10 @@
 
 #include "boards/flatland/Form1large.h"
 #include "boards/flatland/play.h"
-#include "boards/zorvex/play.h"
-#include "boards/zorvex/zorvex.h"
 #include "boards/tetra4d/form5d.h"
 #include "boards/tetra4d/play.h"
+#include "boards/zorvex/play.h"
+#include "boards/zorvex/zorvex.h"
 #include "frame/about_box.h"
 #include "launcher/title.h"
 
