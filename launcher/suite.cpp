@@ -6,6 +6,8 @@
 #include "boards/hypercube/play.h"
 #include "boards/quennel/Quennel.h"
 #include "boards/quennel/play.h"
+#include "boards/tetra4d/form5d.h"
+#include "boards/tetra4d/play.h"
 #include "boards/triangular/Triang.h"
 #include "boards/triangular/play.h"
 #include "boards/wall/play.h"
@@ -30,12 +32,10 @@ Program::Factory factory() {
 // listed here shows "Not yet available".
 const std::vector<Board>& boards() {
   static const std::vector<Board> list{
-      {factory<Form1large>(), flatland::play()},
-      {factory<Triang>(), triangular::play()},
-      {factory<zorvex>(), cube::play()},
-      {factory<vraskthewall>(), wall::play()},
-      {factory<form5d2>(), hypercube::play()},
-      {factory<Quennel>(), quennel::play()},
+      {factory<Form1large>(), flatland::play()}, {factory<Triang>(), triangular::play()},
+      {factory<zorvex>(), cube::play()},         {factory<vraskthewall>(), wall::play()},
+      {factory<form5d2>(), hypercube::play()},   {factory<Quennel>(), quennel::play()},
+      {factory<form5d>(), tetra4d::play()},
   };
   return list;
 }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <random>
 #include <string>
 #include <vector>
@@ -169,6 +170,8 @@ class SoakPlayer {
                                   : kJunk[static_cast<size_t>(chance(7) - 1)];
     if (roll == 4 && !typed) return;
     if (roll != 4 && n == kNoTarget) return;
+    // Typed numbers start at 1: a target that has none is only clicked.
+    if (typed && roll != 4 && (moveKind.typed ? moveKind.typed(n) : n) < 1) return;
     bool shows = roll != 4 && all[n].Visible && k == playing;
     bool move = shows && isFree(k, n);
     if (!move && snapshotsLeft_-- <= 0) return;
