@@ -20,7 +20,7 @@ double numberOf(Form& form, const std::string& variable, const std::vector<int>&
 }
 
 std::pair<int, int> shownPoints(Form& form) {
-  return {static_cast<int>(Val(elementOf(form, {"Label5", 0}).Caption)),
+  return {static_cast<int>(Val(elementOf(form, {"Label5", {}}).Caption)),
           static_cast<int>(Val(elementOf(form, {"Label6", {}}).Caption))};
 }
 

@@ -63,7 +63,7 @@ struct PlayDescriptor {
 
   // A board that opens with an introduction holds everything closed until
   // its timer has ticked so often; the introduction then opens the first game.
-  Choice introTimer;
+  Choice introTimer{};
   int introTicks = 0;
 
   // Where a finished game is written: the round list and the labels of the
@@ -73,7 +73,7 @@ struct PlayDescriptor {
   std::string roundTab = "\t";
   // Between the winner and Blue's points, where a board's rows have another
   // gap there than between the scores.
-  std::optional<std::string> afterWinner;
+  std::optional<std::string> afterWinner{};
   Choice blueTotal{"Label7", 5};
   Choice redTotal{"Label7", 6};
 
@@ -90,8 +90,8 @@ struct PlayDescriptor {
 struct Element;
 Element& elementOf(Form& form, const Choice& choice);
 double numberOf(Form& form, const std::string& variable, const std::vector<int>& indexes = {});
-// The points of Blue and Red as the captions of `Label5(0)` and `Label6` show
-// them.
+// The points of Blue and Red as the captions of `Label5` (its first, where it
+// is an array) and `Label6` show them.
 std::pair<int, int> shownPoints(Form& form);
 
 }  // namespace vrask

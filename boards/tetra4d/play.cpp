@@ -48,11 +48,6 @@ bool lineGame(Form& form) {
   return static_cast<int>(numberOf(form, "gamenum")) == kOmbrel;
 }
 
-std::pair<int, int> shownPoints(Form& form) {
-  return {static_cast<int>(Val(elementOf(form, {"Label5", {}}).Caption)),
-          static_cast<int>(Val(elementOf(form, {"Label6", {}}).Caption))};
-}
-
 // The line game: the points add up to the triangles with three sides. The
 // circle games: each side has the triangles whose three sides are its own.
 std::optional<std::string> scoresDisagree(Form& form) {

@@ -31,11 +31,6 @@ std::vector<Setup> setups(std::initializer_list<int> players) {
   return all;
 }
 
-std::pair<int, int> shownPoints(Form& form) {
-  return {static_cast<int>(Val(elementOf(form, {"Label5", {}}).Caption)),
-          static_cast<int>(Val(elementOf(form, {"Label6", {}}).Caption))};
-}
-
 // A square is a side's while its four lines are all in that side's colour.
 std::optional<std::string> scoresDisagree(Form& form) {
   static const CellLines celllines = startwall();

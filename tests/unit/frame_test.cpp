@@ -21,8 +21,9 @@ struct Wall : Form {
 };
 
 struct FrameFixture : ::testing::Test {
+  // The square board, and a stand-in wall; the other boards not built.
   FrameFixture() {
-    registerSuite(program);
+    registerSuite(program, "Form1large");
     program.registerForm("vraskthewall",
                          [](Program& p) { return std::make_unique<Wall>(p, "vraskthewall"); });
     program.open("Form1large");

@@ -19,8 +19,9 @@ struct StandIn : Form {
 
 struct LauncherFixture : ::testing::Test {
   // The front page, past the splash, with stand-ins for `boards`.
+  // The square board, and stand-ins for `boards`; the others not built.
   void start(std::initializer_list<const char*> boards) {
-    registerSuite(program);
+    registerSuite(program, "Form1large");
     for (const char* name : boards) {
       program.registerForm(name, [name](Program& p) { return std::make_unique<StandIn>(p, name); });
     }
