@@ -8,7 +8,7 @@ import re
 import subprocess
 import sys
 
-SQUARE_BOARD_SIGNATURE = "53ef38217cb513f0"
+SQUARE_BOARD_SIGNATURE = "2a736b471b233890"
 
 
 def bench(*args):
