@@ -69,19 +69,6 @@ class BenchError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// What a game's signature covers: every element and variable of the form but
-// the "Other Games" menu, whose entries open as boards join the suite, so that
-// a board's signature changes only with its own games.
-std::vector<std::string> signatureNames(Form& form) {
-  std::vector<std::string> names;
-  for (const ElementArray* array : form.designOrder()) {
-    if (array->name() == "opts" || (*array)[array->lo()].parent == "opts") continue;
-    names.push_back(array->name());
-  }
-  for (const auto& [name, variable] : form.variables()) names.push_back(name);
-  return names;
-}
-
 // One series: a fresh program with the board set up, then its games.
 class SeriesRun {
  public:
@@ -115,7 +102,7 @@ class SeriesRun {
       ++totals.moves;
     }
     ++totals.games;
-    totals.signature.add(dump(program_, host_, signatureNames(form())));
+    totals.signature.add(dump(program_, host_));
   }
 
  private:
