@@ -76,6 +76,8 @@ std::vector<std::string> signatureNames(Form& form) {
   std::vector<std::string> names;
   for (const ElementArray* array : form.designOrder()) {
     if (array->name() == "opts" || (*array)[array->lo()].parent == "opts") continue;
+    // The expert's entries choose who plays, not the game played.
+    if (array->name() == "expc" || array->name() == "hint") continue;
     names.push_back(array->name());
   }
   for (const auto& [name, variable] : form.variables()) names.push_back(name);

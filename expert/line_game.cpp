@@ -232,8 +232,15 @@ class Search {
     return moves;
   }
 
+  // The budget is spent in proportion to the work: a position costs as many
+  // units as it has free moves to look at.
+  void spend(long units) {
+    budget_ -= units;
+    if (budget_ < 0) throw OutOfBudget{};
+  }
+
   int negamax(int depth, int alpha, int beta, int* bestOut) {
-    if (--budget_ < 0) throw OutOfBudget{};
+    spend(1 + freeCount_);
     if (freeCount_ == 0) return 0;
     bool capture = anyCapture();
     if (depth <= 0 && !capture) {
@@ -300,6 +307,7 @@ class Search {
   // out of them; then the chains and loops are worth what their opener nets.
   int guess() {
     std::vector<int> played;
+    long work = 0;
     for (;;) {
       int safe = kNoMove;
       for (size_t m = 0; m < free_.size() && safe == kNoMove; ++m) {
@@ -307,12 +315,14 @@ class Search {
           safe = static_cast<int>(m);
         }
       }
+      work += static_cast<long>(free_.size());
       if (safe == kNoMove) break;
       play(safe);
       played.push_back(safe);
     }
     int value = openerValueOf(strings());
     for (auto it = played.rbegin(); it != played.rend(); ++it) undo(*it);
+    spend(work + freeCount_);
     return played.size() % 2 == 0 ? value : -value;
   }
 
