@@ -102,6 +102,9 @@ class CircleSearch {
     std::vector<std::pair<int, int>> ranked;
     for (size_t c = 0; c < done_.size(); ++c) {
       if (done_[c]) continue;
+      // Each move looked at costs the budget by the size of the board; the search stops at
+      // the next position once it is spent.
+      budget_ -= 1 + static_cast<long>(p_.cells.size()) / 32;
       play(static_cast<int>(c), mover);
       int value = sign * balance();
       undo();
