@@ -303,19 +303,26 @@ class Search {
   }
 
   // A quiet position past the search's depth. While moves that give nothing
-  // away remain, they are played out in turn, lowest first, to see who runs
-  // out of them; then the chains and loops are worth what their opener nets.
+  // away remain, they are played out in turn to see who runs out of them;
+  // then the chains and loops are worth what their opener nets. Which
+  // chains form depends on the order, so two orders are tried, lowest
+  // first and highest first, and their mean stands.
   int guess() {
+    int sum = playOut(true) + playOut(false);
+    return sum >= 0 ? sum / 2 : -((-sum + 1) / 2);
+  }
+
+  int playOut(bool lowestFirst) {
     std::vector<int> played;
     long work = 0;
+    auto n = static_cast<int>(free_.size());
     for (;;) {
       int safe = kNoMove;
-      for (size_t m = 0; m < free_.size() && safe == kNoMove; ++m) {
-        if (free_[m] && opened(static_cast<int>(m)).empty() && !completes(static_cast<int>(m))) {
-          safe = static_cast<int>(m);
-        }
+      for (int i = 0; i < n && safe == kNoMove; ++i) {
+        int m = lowestFirst ? i : n - 1 - i;
+        if (free_[static_cast<size_t>(m)] && opened(m).empty() && !completes(m)) safe = m;
       }
-      work += static_cast<long>(free_.size());
+      work += n;
       if (safe == kNoMove) break;
       play(safe);
       played.push_back(safe);
