@@ -62,8 +62,8 @@ class CircleSearch {
 
   void undo() {
     Step& step = steps_.back();
-    for (auto it = step.painted.rbegin(); it != step.painted.rend(); ++it) {
-      colour_[static_cast<size_t>(it->first)] = it->second;
+    for (size_t i = step.painted.size(); i-- > 0;) {
+      colour_[static_cast<size_t>(step.painted[i].first)] = step.painted[i].second;
     }
     for (int c : step.closed) done_[static_cast<size_t>(c)] = false;
     steps_.pop_back();
@@ -113,6 +113,7 @@ class CircleSearch {
     std::stable_sort(ranked.begin(), ranked.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<int> moves;
+    moves.reserve(ranked.size());
     for (auto [value, c] : ranked) moves.push_back(c);
     return moves;
   }
@@ -191,7 +192,7 @@ int bestCircle(const CircleProblem& problem, Budget budget) {
   return best;
 }
 
-int playOut(CircleProblem problem, const std::vector<int>& moves) {
+int playOut(const CircleProblem& problem, const std::vector<int>& moves) {
   CircleSearch search(problem, std::numeric_limits<long>::max());
   int mover = problem.mover;
   for (int c : moves) {

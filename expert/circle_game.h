@@ -31,6 +31,6 @@ int bestCircle(const CircleProblem& problem, Budget budget);
 
 // Blue's squares less Red's when the game ends after `moves` are played in
 // turn (the ending played as the rules say); for checking by hand.
-int playOut(CircleProblem problem, const std::vector<int>& moves);
+int playOut(const CircleProblem& problem, const std::vector<int>& moves);
 
 }  // namespace vrask::expert

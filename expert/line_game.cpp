@@ -110,9 +110,7 @@ class Search {
     for (size_t c = 0; c < p.cells.size(); ++c) {
       for (int m : g_.cellMoves[c]) freeSides_[c] += free_[static_cast<size_t>(m)] ? 1 : 0;
     }
-    for (size_t m = 0; m < free_.size(); ++m) {
-      if (free_[m]) ++freeCount_;
-    }
+    freeCount_ = static_cast<int>(std::count(free_.begin(), free_.end(), true));
   }
 
   int freeCount() const { return freeCount_; }
@@ -228,6 +226,7 @@ class Search {
     std::stable_sort(ranked.begin(), ranked.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<int> moves;
+    moves.reserve(ranked.size());
     for (auto [give, m] : ranked) moves.push_back(m);
     return moves;
   }
@@ -328,7 +327,7 @@ class Search {
       played.push_back(safe);
     }
     int value = openerValueOf(strings());
-    for (auto it = played.rbegin(); it != played.rend(); ++it) undo(*it);
+    for (size_t i = played.size(); i-- > 0;) undo(played[i]);
     spend(work + freeCount_);
     return played.size() % 2 == 0 ? value : -value;
   }
@@ -386,7 +385,7 @@ Budget Budget::forMillis(int millis) {
   return Budget{std::max(1L, static_cast<long>(millis) * kNodesPerMilli)};
 }
 
-int openerValue(Strings strings) {
+int openerValue(const Strings& strings) {
   std::vector<int> comps = strings.chains;
   for (int loop : strings.loops) comps.push_back(-loop);
   return openerValueOf(comps);

@@ -43,6 +43,6 @@ struct Strings {
   std::vector<int> chains;  // cells in each chain
   std::vector<int> loops;   // cells in each loop
 };
-int openerValue(Strings strings);
+int openerValue(const Strings& strings);
 
 }  // namespace vrask::expert
