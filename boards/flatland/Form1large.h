@@ -132,6 +132,7 @@ class Form1large : public Form, private BoardFrame {
   Element* kda = nullptr;
 
   std::unique_ptr<ExpertMenu> expert_;
+
   // --- the game -------------------------------------------------------------
   int gamemode = flatland::SuperVraskPlus;
   int boardsize = flatland::kSide;
