@@ -69,6 +69,19 @@ class BenchError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// What a game's signature covers: every element and variable of the form but
+// the expert's entries, which choose who plays and not the game played, so
+// that the square board's signature holds from before the expert joined.
+std::vector<std::string> signatureNames(Form& form) {
+  std::vector<std::string> names;
+  for (const ElementArray* array : form.designOrder()) {
+    if (array->name() == "expc" || array->name() == "hint") continue;
+    names.push_back(array->name());
+  }
+  for (const auto& [name, variable] : form.variables()) names.push_back(name);
+  return names;
+}
+
 // One series: a fresh program with the board set up, then its games.
 class SeriesRun {
  public:
@@ -102,7 +115,7 @@ class SeriesRun {
       ++totals.moves;
     }
     ++totals.games;
-    totals.signature.add(dump(program_, host_));
+    totals.signature.add(dump(program_, host_, signatureNames(form())));
   }
 
  private:

@@ -7,6 +7,7 @@
 
 #include "cli/bench.h"
 #include "cli/driver.h"
+#include "cli/duel.h"
 
 namespace {
 
@@ -15,6 +16,10 @@ constexpr const char* kUsage = R"(Usage:
   vrask-cli bench [--games N] [--board FORM]
                                play N games of each series of every board (or of FORM alone)
                                headless and report speed (N: 2)
+  vrask-cli duel --board FORM --game G [--size N] [--games N]
+                               the expert (Blue) against FORM's own computer in game G
+                               ("Ombrel", "Bubbleland Ombrel", "Super Vrask"), N games (20), the
+                               opener alternating; VRASK_EXPERT_MS bounds its time a move (1000)
   vrask-cli --help             this text
 
 Script: one command a line; # starts a comment.
@@ -81,10 +86,42 @@ int runBench(int argc, char** argv) {
   return vrask::cli::bench(games, board, std::cout, std::cerr);
 }
 
+int wholeNumber(const char* text) {
+  try {
+    return std::stoi(text);
+  } catch (const std::exception&) {
+    return 0;
+  }
+}
+
+int runDuel(int argc, char** argv) {
+  vrask::cli::DuelOptions options;
+  for (int i = 2; i < argc; ++i) {
+    if (i + 1 >= argc) return usageError(std::string("duel option ") + argv[i] + " needs a value");
+    std::string option = argv[i];
+    const char* value = argv[++i];
+    if (option == "--board") {
+      options.board = value;
+    } else if (option == "--game") {
+      options.game = value;
+    } else if (option == "--size" || option == "--games") {
+      int n = wholeNumber(value);
+      if (n < 1) return usageError(option + " needs a whole number from 1");
+      (option == "--size" ? options.size : options.games) = n;
+    } else {
+      return usageError("unknown duel option " + option);
+    }
+  }
+  if (options.board.empty() || options.game.empty())
+    return usageError("duel needs --board and --game");
+  return vrask::cli::duel(options, std::cout, std::cerr);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   if (argc >= 2 && std::strcmp(argv[1], "bench") == 0) return runBench(argc, argv);
+  if (argc >= 2 && std::strcmp(argv[1], "duel") == 0) return runDuel(argc, argv);
   if (argc > 2) return usageError("give at most one script");
   std::string arg = argc == 2 ? argv[1] : "-";
   if (arg == "--help" || arg == "-h") {

@@ -66,6 +66,10 @@ struct PlayDescriptor {
   Choice introTimer{};
   int introTicks = 0;
 
+  // The expert's move for the side to move: the number of the target of the
+  // kind in play; 0 when there is none. Empty on a board without an expert.
+  std::function<int(Form&)> expertMove{};
+
   // Where a finished game is written: the round list and the labels of the
   // two totals.
   std::string roundList = "List2";

@@ -6,6 +6,7 @@
 #include "boards/flatland/layout.h"
 #include "boards/flatland/look.h"
 #include "frame/board_design.h"
+#include "frame/expert_menu.h"
 #include "frame/grid_switch.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
@@ -106,6 +107,7 @@ void Form1large::addMenus() {
   addGamesMenu();
   addOptionsMenu(
       *this, [this](bool on) { shgrid_Click(on); }, [this] { Command6_Click(); }, panel_->keypad());
+  expert_ = std::make_unique<ExpertMenu>(*this, "ks", [this] { hint_Click(); });
   addBoardMenu();
   otherGames_ = std::make_unique<OtherGames>(*this);
   addHelpAboutExit(*this);

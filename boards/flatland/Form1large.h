@@ -25,11 +25,16 @@
 
 namespace vrask {
 
+class ExpertMenu;
+
 class Form1large : public Form, private BoardFrame {
  public:
   explicit Form1large(Program& program);
   ~Form1large() override;
   void Form_Load() override;
+  // The line or circle the expert would play for the side to move, 0 when
+  // the game has none; the game does not change.
+  int expertMove();
 
  private:
   // --- design and load (Form1large.cpp) -----------------------------------
@@ -90,6 +95,14 @@ class Form1large : public Form, private BoardFrame {
   void takeLine(int L);
   void computerVraskTurn();
   void compmove(int s);
+  void handBackToBlue();
+
+  // --- the expert (Form1large_expert.cpp) -------------------------------------
+  void expertLineMove();
+  bool lineScores(int L);
+  int expertLineChoice();
+  int expertCircleChoice();
+  void hint_Click();
 
   // --- elements by the board's own names ------------------------------------
   Element& ln1(int i) { return (*ln1_)[i]; }
@@ -117,6 +130,8 @@ class Form1large : public Form, private BoardFrame {
   Element* List1 = nullptr;
   Element* sks = nullptr;
   Element* kda = nullptr;
+
+  std::unique_ptr<ExpertMenu> expert_;
 
   // --- the game -------------------------------------------------------------
   int gamemode = flatland::SuperVraskPlus;

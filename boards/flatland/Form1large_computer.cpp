@@ -4,6 +4,7 @@
 #include "boards/flatland/Form1large.h"
 #include "boards/flatland/captions.h"
 #include "boards/flatland/look.h"
+#include "frame/expert_menu.h"
 #include "frame/helpers.h"
 #include "frame/sudden_death.h"
 #include "frame/turn_flow.h"
@@ -16,6 +17,10 @@ using namespace flatland;
 // so the square counts for Red and the computer goes again; with nothing to
 // complete, a random line that gives nothing away if there is one.
 void Form1large::computerLineMove() {
+  if (expert_->on()) {
+    expertLineMove();
+    return;
+  }
   compbusy = 1;
   sidecount = countOwnedSides(sqowner);
   candlist = board_.cellsToComplete(sidecount);
@@ -33,7 +38,12 @@ void Form1large::computerLineMove() {
   candlist = board_.safeLines(
       sidecount, [this](int L) { return lineown.at(static_cast<size_t>(L)) == 0 && lineShows(L); });
   takeLine(flow_->pickFrom(candlist));
-  // No square had three sides, so this line scores nothing: Blue is next.
+  // No square had three sides, so this line scores nothing.
+  handBackToBlue();
+}
+
+// A computer's line that scored nothing: Blue is next.
+void Form1large::handBackToBlue() {
   flow_->showTurn(Side::Blue);
   flow_->say("No score    Blue's turn.", color::Blue);
   compbusy = 0;
@@ -56,6 +66,11 @@ void Form1large::takeLine(int L) {
 // A Vrask game: the choice is worked out on every judging, and played only
 // when it is Red's turn. It never looks at colours.
 void Form1large::computerVraskTurn() {
+  if (expert_->on()) {
+    if (flow_->moverColour() != color::Red) return;
+    if (int s = expertCircleChoice()) compmove(s);
+    return;
+  }
   sidecount = board_.countSides([this](int L) { return ln1(L).BorderWidth == kMarkedWidth; });
   auto shows = [this](int s) { return squareShows(s); };
   int s = board_.vraskTarget(sidecount, sqdone, shows);

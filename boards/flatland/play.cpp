@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "boards/flatland/Form1large.h"
 #include "boards/flatland/tables.h"
 #include "frame/cell_board.h"
 #include "frame/helpers.h"
@@ -142,6 +143,7 @@ PlayDescriptor play() {
   d.finished = [](Form& form) { return numberOf(form, "gameover") == 1; };
   d.points = points;
   d.scoresDisagree = scoresDisagree;
+  d.expertMove = [](Form& form) { return dynamic_cast<Form1large&>(form).expertMove(); };
   return d;
 }
 

@@ -1,0 +1,40 @@
+// The expert computer in a board's Options menu: the checkable entry "Expert
+// computer" (off when the form loads; New leaves it as it is) and "Hint",
+// which asks the board to show the move the expert would make for the player
+// to move. The board does the thinking and the showing; this holds the
+// entries, the time the expert may take, and where its thinking runs.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace vrask {
+
+struct Element;
+class Form;
+
+class ExpertMenu {
+ public:
+  // Adds "Expert computer" (`expc`) and "Hint" (`hint`) under `parentMenu`,
+  // and their handlers; a click on "Hint" calls `hint`.
+  ExpertMenu(Form& form, const std::string& parentMenu, std::function<void()> hint);
+
+  bool on() const;
+
+  // The answer of `think`. In the window it runs on a worker thread while
+  // the form pauses, as long as it needs; with `letEventsThrough` clicks
+  // reach the handlers meanwhile (the board's busy flag keeps them out),
+  // else the window only repaints. Without a window it runs at once, so the
+  // clock a script reads does not move.
+  int decide(const std::function<int()>& think, bool letEventsThrough);
+
+ private:
+  Form& form_;
+  Element* entry_;
+};
+
+// How long the expert may think over one move, in milliseconds: the setting
+// VRASK_EXPERT_MS when it holds a positive whole number, else a second.
+int expertMillis();
+
+}  // namespace vrask
