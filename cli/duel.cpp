@@ -67,6 +67,10 @@ class DuelRun {
   DuelRun(const PlayDescriptor& play, const Setup& setup) : play_(play), program_(host_) {
     registerSuite(program_);
     program_.open(play.form);
+    // A board that opens with an introduction holds its menus closed till it ends.
+    for (int i = 0; i < play.introTicks; ++i) {
+      program_.timerTick(form(), elementOf(form(), play.introTimer));
+    }
     for (const Choice& choice : setup.clicks) click(elementOf(form(), choice));
   }
 
