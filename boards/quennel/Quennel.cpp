@@ -5,6 +5,7 @@
 #include "boards/quennel/captions.h"
 #include "boards/quennel/layout.h"
 #include "boards/quennel/look.h"
+#include "frame/expert_menu.h"
 #include "frame/grid_switch.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
@@ -210,6 +211,7 @@ void Quennel::addViewAndNew() {
 void Quennel::addMenus() {
   addGamesMenu();
   addOptionsMenu();
+  expert_ = std::make_unique<ExpertMenu>(*this, "zw", [this] { expertHint_Click(); });
   newMenu = &addMenu("new", "", "New");
   otherGames_ = std::make_unique<OtherGames>(*this);
   addMenu("howmany", "", "&Pyramids");

@@ -23,6 +23,7 @@
 
 #include "boards/quennel/computer.h"
 #include "boards/quennel/tables.h"
+#include "frame/expert_lines.h"
 #include "frame/grid_switch.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
@@ -32,10 +33,16 @@
 
 namespace vrask {
 
+class ExpertMenu;
+
 class Quennel : public Form {
  public:
-  explicit Quennel(Program& program) : Form(program, "Quennel") {}
+  explicit Quennel(Program& program);
+  ~Quennel() override;
   void Form_Load() override;
+  // The line the expert would draw for the side to move, by its number on
+  // the screen; 0 outside Ombrel or when the game is over.
+  int expertMove();
 
  private:
   // --- design and load (Quennel.cpp) ----------------------------------------
@@ -106,6 +113,12 @@ class Quennel : public Form {
   void computerTakesLine(int line);
   void faceBrain();
 
+  // --- the expert (Quennel_expert.cpp) ----------------------------------------
+  LinePosition linePosition() const;
+  int expertLineChoice();
+  void expertLineMove();
+  void expertHint_Click();
+
   // --- elements by the board's own names ------------------------------------
   // The board's arrays: lines, their numbers, the faces' circles and theirs.
   Element& LN(int i) { return (*LN_)[i]; }
@@ -136,6 +149,7 @@ class Quennel : public Form {
   std::unique_ptr<OtherGames> otherGames_;
   std::unique_ptr<RoundList> roundList_;
   std::unique_ptr<TurnFlow> flow_;
+  std::unique_ptr<ExpertMenu> expert_;
 
   // --- the board ------------------------------------------------------------
   quennel::CellLines celllines{};

@@ -5,6 +5,7 @@
 #include "boards/quennel/Quennel.h"
 #include "boards/quennel/captions.h"
 #include "boards/quennel/look.h"
+#include "frame/expert_menu.h"
 
 namespace vrask {
 
@@ -20,6 +21,10 @@ constexpr size_t kMostDangerLines = 150;
 // each so that it scores and moves again; with none, a random line that
 // gives no face its second side if there is one.
 void Quennel::lineBrain() {
+  if (expert_->on()) {
+    expertLineMove();
+    return;
+  }
   sidecount = countMarkedSides(sidemark, faces());
   candidates = facesToClose(sidecount, faces());
   whosnext = 0;

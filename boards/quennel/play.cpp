@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "boards/quennel/Quennel.h"
 #include "boards/quennel/look.h"
 #include "boards/quennel/tables.h"
 #include "frame/helpers.h"
@@ -102,6 +103,7 @@ PlayDescriptor play() {
   d.finished = [](Form& form) { return numberOf(form, "finished") == 1; };
   d.points = points;
   d.scoresDisagree = scoresDisagree;
+  d.expertMove = [](Form& form) { return dynamic_cast<Quennel&>(form).expertMove(); };
   d.introTimer = {"Timer1", {}};
   d.introTicks = 24;
   d.roundList = "List4";

@@ -1,0 +1,81 @@
+// The expert computer: with "Expert computer" ticked, the computer's lines in
+// Ombrel come from the expert's search instead of the line brain; the pauses,
+// the yellow lines and the judging around them are the same. The face games
+// keep the face brain: the expert plays the line games only. "Hint" shows a
+// player the line the expert would draw.
+#include <string>
+
+#include "boards/quennel/Quennel.h"
+#include "boards/quennel/captions.h"
+#include "boards/quennel/look.h"
+#include "frame/expert_lines.h"
+#include "frame/expert_menu.h"
+#include "frame/helpers.h"
+
+namespace vrask {
+
+using namespace quennel;
+
+Quennel::Quennel(Program& program) : Form(program, "Quennel") {}
+Quennel::~Quennel() = default;
+
+// The faces of the size by their real lines, and the lines taken.
+LinePosition Quennel::linePosition() const {
+  LinePosition position;
+  for (int f = 1; f <= faces(); ++f) {
+    position.cells.emplace_back(celllines.at(f).begin() + 1, celllines.at(f).end());
+  }
+  position.taken.resize(linetaken.size());
+  for (size_t line = 0; line < linetaken.size(); ++line) {
+    position.taken[line] = linetaken.at(line) != 0;
+  }
+  return position;
+}
+
+// The real line the expert draws for the side to move; 0 when none is free.
+// The search works on a copy, so that the window can paint while it runs.
+int Quennel::expertLineChoice() {
+  auto think = [position = linePosition()] {
+    return expertLineOf(position, expert::Budget::forMillis(expertMillis()));
+  };
+  // The line brain's pauses let nothing through either.
+  return expert_->decide(think, false);
+}
+
+// Red's line, drawn as the line brain draws one. A line that closes a face is
+// judged, and Red goes again; one that closes none hands the turn to Blue.
+void Quennel::expertLineMove() {
+  whosnext = 0;
+  LinePosition position = linePosition();
+  int line = expertLineChoice();
+  if (line == 0) return;
+  if (position.completes(line)) {
+    computerTakesLine(line);
+    linecheck();
+    return;
+  }
+  int free = 0;
+  for (int l = 1; l <= lines(); ++l) free += linetaken.at(l) == 0 ? 1 : 0;
+  Label34->Caption = std::to_string(free - 1);
+  computerTakesLine(line);
+  flow_->showTurn(Side::Blue);
+  flow_->say(noScoreText("Blue"), color::Blue);
+}
+
+int Quennel::expertMove() {
+  if (finished == 1 || !lineGame()) return 0;
+  int line = expertLineChoice();
+  return line == 0 ? 0 : screenLine(line);
+}
+
+// The line the expert would draw for the side to move shows in yellow for a
+// moment, and its number as the screen shows it stays in the status line;
+// nothing of the game changes. Outside Ombrel there is no line to show.
+void Quennel::expertHint_Click() {
+  int screen = expertMove();
+  if (screen == 0) return;
+  flashInYellow(*this, {&LN(screen)}, kTaken, kComputerPause);
+  flow_->say("Hint: " + std::to_string(screen), flow_->moverColour());
+}
+
+}  // namespace vrask
