@@ -7,6 +7,7 @@
 #include "boards/tetra4d/captions.h"
 #include "boards/tetra4d/layout.h"
 #include "boards/tetra4d/look.h"
+#include "frame/expert_menu.h"
 #include "frame/grid_switch.h"
 #include "frame/helpers.h"
 #include "frame/keypad.h"
@@ -295,6 +296,7 @@ void form5d::addMenus() {
   sd_ = std::make_unique<SuddenDeath>(*this,
                                       SuddenDeathConfig{.interval = 100, .bar = lay::kTimeBar});
   addOnlineEntries(*this, "ks");
+  expert_ = std::make_unique<ExpertMenu>(*this, "ks", [this] { expertHint_Click(); });
 
   addMenu("hntm", "", "Hints");
   hnt = &addMenu("hnt", "hntm", "Hint when no good (non-scoring) moves are left (computer's turn)");

@@ -26,10 +26,16 @@
 
 namespace vrask {
 
+class ExpertMenu;
+
 class form5d : public Form {
  public:
-  explicit form5d(Program& program) : Form(program, "form5d") {}
+  explicit form5d(Program& program);
+  ~form5d() override;
   void Form_Load() override;
+  // The number of the line the expert would draw for the side to move; 0
+  // outside Ombrel or when the round is over.
+  int expertMove();
 
  private:
   // --- design and load (form5d.cpp) ---------------------------------------
@@ -87,6 +93,11 @@ class form5d : public Form {
   void List3_DblClick();
   void computerCircleMove();
 
+  // --- the expert (form5d_expert.cpp) -----------------------------------------
+  int expertLineChoice();
+  void expertTurn();
+  void expertHint_Click();
+
   // --- the drawn lines ------------------------------------------------------
   // Every segment that shows line `slot` now, in every figure.
   std::vector<Element*> segmentsOf(int slot);
@@ -132,6 +143,7 @@ class form5d : public Form {
   std::unique_ptr<Keypad> keypad_;
   std::unique_ptr<SuddenDeath> sd_;
   std::unique_ptr<OtherGames> otherGames_;
+  std::unique_ptr<ExpertMenu> expert_;
 
   // --- the game -------------------------------------------------------------
   tetra4d::Board board_;

@@ -5,6 +5,7 @@
 #include "boards/tetra4d/computer.h"
 #include "boards/tetra4d/form5d.h"
 #include "boards/tetra4d/look.h"
+#include "frame/expert_menu.h"
 #include "frame/sudden_death.h"
 
 namespace vrask {
@@ -15,6 +16,10 @@ using namespace tetra4d;
 // highest first, then plays a line that gives nothing away if one is left.
 // `compbusy` holds a person's clicks out all through, the pauses included.
 void form5d::compmove() {
+  if (expert_->on()) {
+    expertTurn();
+    return;
+  }
   compbusy = 1;
   Pick draw = [this](int n) { return pick(n); };
   while (overflag == 0) {

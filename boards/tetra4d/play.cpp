@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "boards/tetra4d/form5d.h"
 #include "boards/tetra4d/rules.h"
 #include "frame/helpers.h"
 #include "toolkit/form.h"
@@ -90,6 +91,7 @@ PlayDescriptor play() {
   // Circle t is `Label99(t - 1)`.
   d.points = shownPoints;
   d.scoresDisagree = scoresDisagree;
+  d.expertMove = [](Form& form) { return dynamic_cast<form5d&>(form).expertMove(); };
   d.enterButton = "Command4";
   return d;
 }
