@@ -111,6 +111,7 @@ class Quennel : public Form {
   // --- the computer (Quennel_computer.cpp) --------------------------------------
   void lineBrain();
   void computerTakesLine(int line);
+  void takeQuietLine(int line);
   void faceBrain();
 
   // --- the expert (Quennel_expert.cpp) ----------------------------------------

@@ -39,12 +39,17 @@ void Quennel::lineBrain() {
   dangerlines = dangerLines(celllines, sidecount, faces());
   if (dangerlines.size() > kMostDangerLines) dangerlines.resize(kMostDangerLines);
   candidates = lineCandidates(dangerlines, linetaken, lines());
-  int line = flow_->pickFrom(candidates);
+  // No face had two sides, so this line closes none.
+  takeQuietLine(flow_->pickFrom(candidates));
+}
+
+// A line of Red's that closes no face: the moves left count it, and Blue is
+// next.
+void Quennel::takeQuietLine(int line) {
   int free = 0;
   for (int l = 1; l <= lines(); ++l) free += linetaken.at(l) == 0 ? 1 : 0;
   Label34->Caption = std::to_string(free - 1);
   computerTakesLine(line);
-  // No face had two sides, so this line closes none: Blue is next.
   flow_->showTurn(Side::Blue);
   flow_->say(noScoreText("Blue"), color::Blue);
 }

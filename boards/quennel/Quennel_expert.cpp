@@ -6,7 +6,6 @@
 #include <string>
 
 #include "boards/quennel/Quennel.h"
-#include "boards/quennel/captions.h"
 #include "boards/quennel/look.h"
 #include "frame/expert_lines.h"
 #include "frame/expert_menu.h"
@@ -54,12 +53,7 @@ void Quennel::expertLineMove() {
     linecheck();
     return;
   }
-  int free = 0;
-  for (int l = 1; l <= lines(); ++l) free += linetaken.at(l) == 0 ? 1 : 0;
-  Label34->Caption = std::to_string(free - 1);
-  computerTakesLine(line);
-  flow_->showTurn(Side::Blue);
-  flow_->say(noScoreText("Blue"), color::Blue);
+  takeQuietLine(line);
 }
 
 int Quennel::expertMove() {
