@@ -1,6 +1,13 @@
 // The computer plays Red when "1 player verus the computer" is ticked. It
 // answers at the end of every move of the person (computer.h holds its
 // choice); this is the move it makes, with its pauses.
+//
+// The wall has no "Expert computer": the expert plays line games, where a
+// move takes one line and whoever completes a cell moves again, and the
+// square board's circle games, which end in the black last circle. The
+// wall's games are all circle games without that ending, and a Super Vrask
+// Plus move here takes the neighbours' circles too, so neither search plays
+// by the wall's rules; its own computer plays every game.
 #include "boards/wall/captions.h"
 #include "boards/wall/look.h"
 #include "boards/wall/vraskthewall.h"
