@@ -21,7 +21,7 @@ constexpr double kLookEvery = 0.02;
 
 ExpertMenu::ExpertMenu(Form& form, const std::string& parentMenu, std::function<void()> hint)
     : form_(form), entry_(&form.addMenu("expc", parentMenu, "Expert computer")) {
-  form.addMenu("hint", parentMenu, "Hint");
+  form.addMenu("hint", "", "Hint").Shortcut = "F2";
   form.handle("expc_Click", [this] { entry_->Checked = !entry_->Checked; });
   form.handle("hint_Click", std::move(hint));
 }
