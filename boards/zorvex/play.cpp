@@ -5,6 +5,7 @@
 
 #include "boards/zorvex/captions.h"
 #include "boards/zorvex/tables.h"
+#include "boards/zorvex/zorvex.h"
 #include "frame/helpers.h"
 #include "toolkit/form.h"
 
@@ -117,6 +118,7 @@ PlayDescriptor play() {
   d.finished = [](Form& form) { return numberOf(form, "gameover") == 1; };
   d.points = points;
   d.scoresDisagree = scoresDisagree;
+  d.expertMove = [](Form& form) { return dynamic_cast<zorvex&>(form).expertMove(); };
   d.roundList = "List4";
   d.roundTab = "\t\t";
   return d;

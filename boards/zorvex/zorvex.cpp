@@ -5,6 +5,7 @@
 #include "boards/zorvex/captions.h"
 #include "boards/zorvex/layout.h"
 #include "boards/zorvex/look.h"
+#include "frame/expert_menu.h"
 #include "frame/grid_switch.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
@@ -202,6 +203,7 @@ void zorvex::addMenus() {
   addMenu("newz", "", "&New");
   addGamesMenu();
   addOptionsMenu();
+  expert_ = std::make_unique<ExpertMenu>(*this, "sdz", [this] { hint_Click(); });
   addViewMenu();
   addHintsMenu();
   otherGames_.emplace(*this, OtherGamesNames{.twoD = "cbm", .threeD = "cccbm", .fourD = "ccccbm"});

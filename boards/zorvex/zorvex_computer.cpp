@@ -3,6 +3,7 @@
 #include "boards/zorvex/captions.h"
 #include "boards/zorvex/look.h"
 #include "boards/zorvex/zorvex.h"
+#include "frame/expert_menu.h"
 #include "frame/sudden_death.h"
 #include "frame/turn_flow.h"
 
@@ -27,6 +28,10 @@ int zorvex::pickFrom(const std::vector<int>& candidates) {
 // a random line that leaves no square at three, if there is one. Its pauses
 // let clicks through, and `busy` keeps them out.
 void zorvex::ombrelReply() {
+  if (expert_->on()) {
+    expertOmbrelReply();
+    return;
+  }
   busy = 1;
   PerSquare painted = paintedSides(squareinks);
   rednext = 0;
@@ -69,6 +74,7 @@ void zorvex::playComputerLine(int L) {
 }
 
 // The Vrask circle games: Red's square, played where it stands in this view.
+// The expert plays no circle game on this board (zorvex_expert.cpp says why).
 void zorvex::circleReply() {
   int s = pickCircleReply();
   if (s != 0) carryOutReply(s);
@@ -123,6 +129,10 @@ void zorvex::carryOutReply(int s) {
 
 // Zorvex (Squares): finish a cube at five, else keep away from cubes at four.
 void zorvex::squaresReply() {
+  if (expert_->on()) {
+    ballswalls(expertBoardMove(false));
+    return;
+  }
   int s = cubeToFinish(tables, cubefaces);
   if (s == 0) s = pickFrom(squareCandidates(tables, cubefaces, circlestate));
   ballswalls(s);
