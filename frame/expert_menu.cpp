@@ -5,6 +5,7 @@
 #include <future>
 #include <string>
 
+#include "frame/helpers.h"
 #include "toolkit/form.h"
 #include "toolkit/headless_host.h"
 #include "toolkit/program.h"
@@ -41,6 +42,21 @@ int ExpertMenu::decide(const std::function<int()>& think, bool letEventsThrough)
     }
   }
   return answer.get();
+}
+
+void ExpertMenu::showMove(const std::vector<Element*>& marks, int width) {
+  std::vector<Element> before;
+  for (Element* mark : marks) {
+    before.push_back(*mark);
+    mark->BorderWidth = width;
+    mark->BorderColor = color::Yellow;
+  }
+  form_.Refresh();
+  form_.wait(kComputerPause);
+  for (size_t i = 0; i < marks.size(); ++i) {
+    marks[i]->BorderWidth = before[i].BorderWidth;
+    marks[i]->BorderColor = before[i].BorderColor;
+  }
 }
 
 int expertMillis() {

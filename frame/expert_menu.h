@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace vrask {
 
@@ -31,6 +32,11 @@ class ExpertMenu {
   // else the window only repaints. Without a window it runs at once, so the
   // clock a script reads does not move.
   int decide(const std::function<int()>& think, bool letEventsThrough);
+
+  // A hint's move, shown for a moment: `marks` (its lines, or a circle's
+  // ring) drawn `width` wide in yellow, then as they were. The pause lets
+  // nothing in.
+  void showMove(const std::vector<Element*>& marks, int width);
 
  private:
   Form& form_;
