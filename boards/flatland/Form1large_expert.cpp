@@ -105,20 +105,9 @@ void Form1large::hint_Click() {
   int n = expertMove();
   if (n == 0) return;
   if (gamemode == Ombrel) {
-    std::vector<int> lines{n};
-    if (bubbleland() && twinOf(n) != 0) lines.push_back(twinOf(n));
-    std::vector<Element> before;
-    for (int line : lines) {
-      before.push_back(ln1(line));
-      ln1(line).BorderWidth = kMarkedWidth;
-      ln1(line).BorderColor = color::Yellow;
-    }
-    Refresh();
-    wait(kComputerPause);
-    for (size_t i = 0; i < lines.size(); ++i) {
-      ln1(lines[i]).BorderWidth = before[i].BorderWidth;
-      ln1(lines[i]).BorderColor = before[i].BorderColor;
-    }
+    std::vector<Element*> lines{&ln1(n)};
+    if (bubbleland() && twinOf(n) != 0) lines.push_back(&ln1(twinOf(n)));
+    expert_->showMove(lines, kMarkedWidth);
   } else {
     int fill = Shape1(n).FillColor;
     Shape1(n).FillColor = color::Yellow;

@@ -84,20 +84,9 @@ void Triang::hint_Click() {
   if (inputlock == 1) return;
   int line = expertMove();
   if (line == 0) return;
-  std::vector<int> lines{line};
-  if (bubbleland() && twinOf(line) != 0) lines.push_back(twinOf(line));
-  std::vector<Element> before;
-  for (int L : lines) {
-    before.push_back(ln1(L));
-    ln1(L).BorderWidth = kMarkedWidth;
-    ln1(L).BorderColor = color::Yellow;
-  }
-  Refresh();
-  wait(kComputerPause);
-  for (size_t i = 0; i < lines.size(); ++i) {
-    ln1(lines[i]).BorderWidth = before[i].BorderWidth;
-    ln1(lines[i]).BorderColor = before[i].BorderColor;
-  }
+  std::vector<Element*> lines{&ln1(line)};
+  if (bubbleland() && twinOf(line) != 0) lines.push_back(&ln1(twinOf(line)));
+  expert_->showMove(lines, kMarkedWidth);
   flow_->say("Hint: " + std::to_string(line), Label33->ForeColor);
   Refresh();
 }

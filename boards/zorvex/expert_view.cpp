@@ -2,22 +2,24 @@
 
 namespace vrask::cube {
 
+namespace {
+
+// The cells of a table whose row c lists the sides of cell c from column 1.
+template <typename Table>
+CellBoard cellsOf(const Table& table, int sides) {
+  std::vector<std::vector<int>> cells(table.size());
+  for (size_t c = 1; c < table.size(); ++c) cells[c].assign(table[c].begin() + 1, table[c].end());
+  return {std::move(cells), sides};
+}
+
+}  // namespace
+
 CellBoard squaresAsCells(const Tables& t) {
-  std::vector<std::vector<int>> sides(kSquares + 1);
-  for (int s = 1; s <= kSquares; ++s) {
-    const auto& lines = t.squarelines.at(static_cast<size_t>(s));
-    sides.at(static_cast<size_t>(s)).assign(lines.begin() + 1, lines.end());
-  }
-  return {std::move(sides), kLines};
+  return cellsOf(t.squarelines, kLines);
 }
 
 CellBoard cubesAsCells(const Tables& t) {
-  std::vector<std::vector<int>> sides(kCubes + 1);
-  for (int c = 1; c <= kCubes; ++c) {
-    const auto& squares = t.cubesquares.at(static_cast<size_t>(c));
-    sides.at(static_cast<size_t>(c)).assign(squares.begin() + 1, squares.end());
-  }
-  return {std::move(sides), kSquares};
+  return cellsOf(t.cubesquares, kSquares);
 }
 
 }  // namespace vrask::cube

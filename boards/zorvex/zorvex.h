@@ -119,6 +119,7 @@ class zorvex : public Form {
   void circleReply();
   int pickCircleReply();
   void carryOutReply(int s);
+  void playQuietLine(int L, const cube::PerSquare& painted);
   void squaresReply();
   int pickFrom(const std::vector<int>& candidates);
 

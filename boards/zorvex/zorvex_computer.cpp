@@ -49,12 +49,15 @@ void zorvex::ombrelReply() {
     if (hnt->Checked) MsgBox(kNoGoodMoves);
     candidates = freeLines(lineowner);
   }
-  int L = pickFrom(candidates);
+  playQuietLine(pickFrom(candidates), painted);
+}
+
+// A line that completes no square, after a moment more; Blue is next.
+void zorvex::playQuietLine(int L, const PerSquare& painted) {
   waitWithEvents(kLinePause);
   Label34->Caption = movesLeft(freeLineCount() - 1);
   playComputerLine(L);
   hintscan(painted);
-  // No square had three lines, so this line scores nothing: Blue is next.
   flow_->showTurn(Side::Blue);
   flow_->say("No score    Blue's turn.", color::Blue);
   busy = 0;

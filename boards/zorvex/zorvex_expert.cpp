@@ -27,12 +27,6 @@ namespace vrask {
 
 using namespace cube;
 
-namespace {
-
-constexpr double kLinePause = 1;
-
-}  // namespace
-
 // The expert's line, played as the board's computer plays one: a line that
 // completes a square is counted at once, which gives Red the next move; one
 // that completes none (a safe line, or the one that declines the last
@@ -53,13 +47,7 @@ void zorvex::expertOmbrelReply() {
       hnt->Checked) {
     MsgBox(kNoGoodMoves);
   }
-  waitWithEvents(kLinePause);
-  Label34->Caption = movesLeft(freeLineCount() - 1);
-  playComputerLine(L);
-  hintscan(painted);
-  flow_->showTurn(Side::Blue);
-  flow_->say("No score    Blue's turn.", color::Blue);
-  busy = 0;
+  playQuietLine(L, painted);
 }
 
 bool zorvex::completesSquare(const PerSquare& painted, int L) const {
@@ -113,28 +101,9 @@ void zorvex::hint_Click() {
   if (busy == 1) return;
   int m = expertBoardMove(false);
   if (m == 0) return;
-  int number = m;
-  if (gamemode == Ombrel) {
-    Element& line = LN(slotLine(m));
-    Element before = line;
-    line.BorderWidth = kPainted;
-    line.BorderColor = color::Yellow;
-    Refresh();
-    wait(kLinePause);
-    line.BorderWidth = before.BorderWidth;
-    line.BorderColor = before.BorderColor;
-    number = lineNumber(m);
-  } else {
-    Element& ring = Shape1(m);
-    Element before = ring;
-    ring.BorderWidth = kPlayedRing;
-    ring.BorderColor = color::Yellow;
-    Refresh();
-    wait(kLinePause);
-    ring.BorderWidth = before.BorderWidth;
-    ring.BorderColor = before.BorderColor;
-  }
-  flow_->say("Hint: " + std::to_string(number), Label33->ForeColor);
+  bool line = gamemode == Ombrel;
+  expert_->showMove({line ? &LN(slotLine(m)) : &Shape1(m)}, line ? kPainted : kPlayedRing);
+  flow_->say("Hint: " + std::to_string(line ? lineNumber(m) : m), Label33->ForeColor);
   Refresh();
 }
 
