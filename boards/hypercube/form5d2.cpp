@@ -359,6 +359,8 @@ void form5d2::registerHandlers() {
   handle("hnt_Click", [this] { hintMenu_Click(*hnt, nullptr); });
   handle("shint_Click", [this] { hintMenu_Click(*shint, Label34); });
   handle("bhint_Click", [this] { hintMenu_Click(*bhint, List3); });
+  handle("List3_Click", [this] { List3_Click(false); });
+  handle("List3_DblClick", [this] { List3_Click(true); });
 }
 
 void form5d2::registerVariables() {

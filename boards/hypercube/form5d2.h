@@ -87,6 +87,7 @@ class form5d2 : public Form {
   void computerLineMove();
   void compmov(int windex);
   void hintlist();
+  void List3_Click(bool play);
   void computerSquareMove();
   void computerLineVraskMove();
 

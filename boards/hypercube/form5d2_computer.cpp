@@ -84,6 +84,13 @@ void form5d2::hintlist() {
   if (gamenum == 0 || gamenum == 2) redtoplay = 0;
 }
 
+// A number chosen in the hint list goes to the keypad; a double click plays
+// it as the keypad's enter would, so it is held out while the computer
+// captures.
+void form5d2::List3_Click(bool play) {
+  if (keypad_->takeListRow(*List3) && play) Command3_Click();
+}
+
 // The free square with the most painted sides, shown in yellow for two
 // seconds and painted red. A square with no painted side is out of its
 // reach: with nothing else free it lets the turn go.

@@ -215,11 +215,7 @@ void zorvex::hintscan(const PerSquare& before) {
 
 // A number chosen in the list goes to the keypad; a double click plays it.
 void zorvex::List3_Click(bool play) {
-  if (List3->ListIndex < 0 || List3->ListIndex >= List3->ListCount()) return;
-  if (!keypad_->on()) keypad_->toggleFromMenu();
-  keypad_->text().Visible = true;
-  keypad_->text().Text = List3->List.at(static_cast<size_t>(List3->ListIndex));
-  if (play) Command6_Click();
+  if (keypad_->takeListRow(*List3) && play) Command6_Click();
 }
 
 }  // namespace vrask
