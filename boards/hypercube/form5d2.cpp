@@ -318,7 +318,7 @@ void form5d2::addGamesMenu() {
   gmzz = &addMenu("gmzz", "", "Games");
   gm_ = &addMenuArray("gm", "gmzz", 0, 15);
   for (Element& entry : *gm_) entry.Caption = std::string("-");  // a separator
-  for (const GameEntry& game : kGames) gm(game.index).Caption = game.caption;
+  for (const GameEntry& game : kGames) gm(game.index).Caption = game.title.entry;
 }
 
 // Players and options close with the first move of a round; the grid, the

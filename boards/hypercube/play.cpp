@@ -31,9 +31,9 @@ int gameNumber(Form& form) {
 std::vector<Setup> allSetups() {
   std::vector<Setup> setups;
   for (const GameEntry& game : kGames) {
-    setups.push_back({game.caption, {{"gm", game.index}}});
+    setups.push_back({game.title.entry, {{"gm", game.index}}});
     setups.push_back(
-        {std::string(game.caption) + ", players swapped", {{"pl", 1}, {"gm", game.index}}});
+        {std::string(game.title.entry) + ", players swapped", {{"pl", 1}, {"gm", game.index}}});
   }
   return setups;
 }
@@ -43,7 +43,7 @@ std::vector<Setup> benchSeries() {
   std::vector<Setup> series;
   for (const GameEntry& game : kGames) {
     for (int index : kComputerGames) {
-      if (index == game.index) series.push_back({game.caption, {{"gm", game.index}}});
+      if (index == game.index) series.push_back({game.title.entry, {{"gm", game.index}}});
     }
   }
   return series;

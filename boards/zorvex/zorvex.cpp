@@ -221,7 +221,7 @@ void zorvex::addGamesMenu() {
     entry.Visible = entry.index != ZorvexLines && entry.index != OldVraskClassic &&
                     entry.index != OldVraskSetCount;
   }
-  for (const ModeText& mode : kModeTexts) game(mode.mode).Caption = mode.entry;
+  for (const GameEntry& mode : kModeTexts) game(mode.index).Caption = mode.title.entry;
 }
 
 void zorvex::addOptionsMenu() {

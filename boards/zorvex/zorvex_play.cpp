@@ -94,7 +94,7 @@ void zorvex::Label9_Click(int c) {
   // A played circle is refused before anything else is touched.
   int s = boardSquare(viewno, slot);
   if (circlestate.at(static_cast<size_t>(s)) != 0) {
-    MsgBox(kInvalidCircle);
+    MsgBox(kInvalidMove);
     return;
   }
   sd_->stop();
@@ -117,7 +117,7 @@ void zorvex::Label9_Click(int c) {
   if (afterCircleMove()) return;
   if (!onePlayer()) return;
   flow_->showTurn(Side::Red);
-  flow_->say(kRedsTurn, color::Red);
+  flow_->say(kRedPlayersTurn, color::Red);
   Refresh();
   wait(2);
   circleReply();
@@ -157,7 +157,7 @@ void zorvex::inkBoardLine(int L, int value) {
 
 void zorvex::passCircleTurn() {
   bool blueNext = mover() != color::Blue;
-  flow_->say(blueNext ? kBluesTurn : kRedsTurn, blueNext ? color::Blue : color::Red);
+  flow_->say(blueNext ? kBluePlayersTurn : kRedPlayersTurn, blueNext ? color::Blue : color::Red);
   flow_->showTurn(blueNext ? Side::Blue : Side::Red);
 }
 
@@ -167,7 +167,7 @@ void zorvex::passCircleTurn() {
 void zorvex::ballswalls(int s) {
   if (s == 0) s = kTwinCircle;
   if (circlestate.at(static_cast<size_t>(s)) != 0) {
-    MsgBox(kInvalidCircle);
+    MsgBox(kInvalidMove);
     return;
   }
   hideCumulativePanel();
