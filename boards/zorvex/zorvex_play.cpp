@@ -70,11 +70,9 @@ void zorvex::lineClickPrelude() {
 // The mover of the line just clicked, by `rednext`, which then points at the
 // other side; a score turns it back.
 int zorvex::takeLineMover() {
-  bool redMoves = rednext == 1;
-  rednext = redMoves ? 0 : 1;
-  moverid = redMoves ? kRedId : kBlueId;
-  flow_->showTurn(redMoves ? Side::Blue : Side::Red);
-  return redMoves ? color::Red : color::Blue;
+  Side mover = flow_->passLineTurn(rednext);
+  moverid = mover == Side::Red ? kRedId : kBlueId;
+  return mover == Side::Red ? color::Red : color::Blue;
 }
 
 void zorvex::markmov(int L) {
