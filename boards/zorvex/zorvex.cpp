@@ -100,13 +100,7 @@ void zorvex::addBoard() {
     e.BorderWidth = 3;
     e.Visible = false;
   }
-  Shape1_ = &addArray("Shape1", Kind::Shape, 1, kSquares);
-  for (Element& ring : *Shape1_) {
-    placed(ring, lay::ringAt(ring.index));
-    ring.Shape = Circle;
-    ring.FillStyle = 0;
-    ring.FillColor = kRingFill;
-  }
+  Shape1_ = &addRings(*this, kSquares, lay::ringAt, kRingFill);
 }
 
 // The hit zones over the lines, the numbers beside them and the circles on
