@@ -4,7 +4,8 @@ namespace vrask::hypercube {
 
 expert::LineProblem lineProblem(const SideTable& sqln, const LineValues& lnown) {
   expert::LineProblem p;
-  for (int s = 1; s <= kSquares; ++s) p.cells.emplace_back(sqln.at(s).begin() + 1, sqln.at(s).end());
+  for (int s = 1; s <= kSquares; ++s)
+    p.cells.emplace_back(sqln.at(s).begin() + 1, sqln.at(s).end());
   for (int slot = 1; slot <= kLines; ++slot) {
     p.moves.push_back({slot});
     p.taken.push_back(lnown.at(slot) != 0);

@@ -325,6 +325,7 @@ void form5d2::addOptionsMenus() {
   pme = &addMenu("pme", "", "Options");
   hidmov = &addMenu("hidmov", "pme", "Hide non-scoring moves in Vrask games");
   hnt = &addMenu("hnt", "pme", "Hint when no good moves left (computer)");
+  expert_.emplace(*this, "pme", [this] { hint_Click(); });
   addMenu("hnts", "", "Hints");
   shint = &addMenu("shint", "hnts", "Super Hint: How many non-scoring moves left (your turn)");
   bhint = &addMenu("bhint", "hnts", "Best Hint: Tell you what non-scoring moves are left");

@@ -29,6 +29,10 @@ constexpr double kLineVraskPause = 2;
 // flash that follows it lets clicks in.
 void form5d2::computerLineMove() {
   sidecount = countPaintedSides(sqside);
+  if (expert_->on()) {
+    expertLineMove();
+    return;
+  }
   if (int slot = lineToTake(sqln, sqside, sidecount); slot != 0) {
     compbusy = 1;
     redtoplay = 0;

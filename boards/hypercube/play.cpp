@@ -4,6 +4,7 @@
 #include <string>
 
 #include "boards/hypercube/captions.h"
+#include "boards/hypercube/form5d2.h"
 #include "boards/hypercube/layout.h"
 #include "boards/hypercube/look.h"
 #include "boards/hypercube/tables.h"
@@ -141,6 +142,8 @@ PlayDescriptor play() {
       .finished = [](Form& form) { return numberOf(form, "overflag") == 1; },
       .points = points,
       .scoresDisagree = scoresDisagree,
+      .expertMove = [](Form& form) { return dynamic_cast<form5d2&>(form).expertMove(); },
+      .noExpertMove = form5d2::kNoExpertMove,
       .enterButton = "Command3",
       .keypadOpener = {"Command4", std::nullopt},
   };
