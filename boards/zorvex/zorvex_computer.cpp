@@ -46,7 +46,7 @@ void zorvex::ombrelReply() {
   }
   std::vector<int> candidates = safeLines(tables, painted, lineowner);
   if (candidates.empty()) {
-    if (hnt->Checked) MsgBox(kNoGoodMoves);
+    if (hnt->Checked) MsgBox(kNoGoodMovesLeft);
     candidates = freeLines(lineowner);
   }
   playQuietLine(pickFrom(candidates), painted);
@@ -122,7 +122,7 @@ void zorvex::carryOutReply(int s) {
     lineowner.at(static_cast<size_t>(boardLine(viewno, drawnLine))) = color::Red;
   }
   Refresh();
-  flow_->say(kBluesTurn, color::Blue);
+  flow_->say(kBluePlayersTurn, color::Blue);
   flow_->showTurn(Side::Blue);
   if (isSuperVrask(gamemode)) {
     for (int neighbour : planeNeighbours(p)) paintSquare(neighbour, color::Red);
