@@ -45,7 +45,7 @@ void zorvex::expertOmbrelReply() {
   }
   if (squareToFinish(painted) == 0 && safeLines(tables, painted, lineowner).empty() &&
       hnt->Checked) {
-    MsgBox(kNoGoodMoves);
+    MsgBox(kNoGoodMovesLeft);
   }
   playQuietLine(L, painted);
 }
