@@ -83,7 +83,7 @@ class DuelRun {
       int n = play_.expertMove(form());
       auto end = std::chrono::steady_clock::now();
       tally.moveMillis.push_back(std::chrono::duration<double, std::milli>(end - begin).count());
-      if (n == 0) throw DuelError("the expert found no move in a game not over");
+      if (n == play_.noExpertMove) throw DuelError("the expert found no move in a game not over");
       ElementArray& targets = findArray(form(), play_.kinds.at(play_.kindInPlay(form())).targets);
       click(targets[n]);
     }

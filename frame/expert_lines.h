@@ -1,81 +1,32 @@
-// A line game as the expert sees it, for a board whose cells are lists of
-// its line numbers and whose every line is a move of its own; and the hint's
-// yellow flash. Kept in this header, so that the frame's library needs
-// nothing of the expert's: only the boards that use it link both.
+// A line game as the expert sees it, read off a board given as cells and
+// their sides: the cells that show are the cells that score, each of their
+// lines is a move, and a line with a twin (the same line of a joined board
+// drawn twice) is one move with it. The board keeps its own numbers: each
+// move is known by its line, the lower of a pair of twins.
 #pragma once
 
-#include <algorithm>
-#include <set>
+#include <functional>
 #include <vector>
 
 #include "expert/line_game.h"
-#include "toolkit/form.h"
+#include "frame/cell_board.h"
 
 namespace vrask {
 
-// The board's cells by their lines (any numbering of lines), and which lines
-// are taken, by line number. A copy, so that the search can run aside.
-struct LinePosition {
-  std::vector<std::vector<int>> cells;
-  std::vector<bool> taken;
+struct ExpertLines {
+  expert::LineProblem problem;
+  std::vector<int> lineOfMove;
 
-  bool isTaken(int line) const {
-    auto at = static_cast<size_t>(line);
-    return at < taken.size() && taken[at];
-  }
-
-  // Whether taking `line` makes a cell whole.
-  bool completes(int line) const {
-    return std::any_of(cells.begin(), cells.end(), [this, line](const std::vector<int>& cell) {
-      return std::find(cell.begin(), cell.end(), line) != cell.end() &&
-             std::all_of(cell.begin(), cell.end(),
-                         [this, line](int side) { return side == line || isTaken(side); });
-    });
+  // The line the expert plays, 0 when every line is taken.
+  int bestLine(expert::Budget budget) const {
+    int m = expert::bestLineMove(problem, budget);
+    return m < 0 ? 0 : lineOfMove.at(static_cast<size_t>(m));
   }
 };
 
-// The position as the expert's problem, one move a line; `lineOfMove` gets
-// the board's number of each move.
-inline expert::LineProblem lineProblemOf(const LinePosition& position,
-                                         std::vector<int>& lineOfMove) {
-  expert::LineProblem problem;
-  std::set<int> lines;
-  for (const std::vector<int>& cell : position.cells) {
-    problem.cells.push_back(cell);
-    lines.insert(cell.begin(), cell.end());
-  }
-  lineOfMove.assign(lines.begin(), lines.end());
-  for (int line : lineOfMove) {
-    problem.moves.push_back({line});
-    problem.taken.push_back(position.isTaken(line));
-  }
-  return problem;
-}
-
-// The line the expert takes, by the board's number; 0 when every line of a
-// cell is taken.
-inline int expertLineOf(const LinePosition& position, expert::Budget budget) {
-  std::vector<int> lineOfMove;
-  int m = expert::bestLineMove(lineProblemOf(position, lineOfMove), budget);
-  return m < 0 ? 0 : lineOfMove.at(static_cast<size_t>(m));
-}
-
-// The hint: `drawn` shows in yellow at `width` for `seconds`, then as before.
-inline void flashInYellow(Form& form, const std::vector<Element*>& drawn, int width,
-                          double seconds) {
-  std::vector<std::pair<int, int>> before;
-  for (Element* e : drawn) {
-    before.emplace_back(e->BorderColor, e->BorderWidth);
-    e->BorderColor = color::Yellow;
-    e->BorderWidth = width;
-  }
-  form.Refresh();
-  form.wait(seconds);
-  for (size_t i = 0; i < drawn.size(); ++i) {
-    drawn[i]->BorderColor = before[i].first;
-    drawn[i]->BorderWidth = before[i].second;
-  }
-  form.Refresh();
-}
+// `taken(line)`: the line has been drawn. `twinOf(line)`: the line drawn
+// with it, 0 for none; without it no line has a twin.
+ExpertLines expertLines(const CellBoard& board, const Test& cellShows, const Test& taken,
+                        const std::function<int(int)>& twinOf = nullptr);
 
 }  // namespace vrask

@@ -5,6 +5,7 @@
 #include <future>
 #include <string>
 
+#include "frame/helpers.h"
 #include "toolkit/form.h"
 #include "toolkit/headless_host.h"
 #include "toolkit/program.h"
@@ -21,7 +22,7 @@ constexpr double kLookEvery = 0.02;
 
 ExpertMenu::ExpertMenu(Form& form, const std::string& parentMenu, std::function<void()> hint)
     : form_(form), entry_(&form.addMenu("expc", parentMenu, "Expert computer")) {
-  form.addMenu("hint", parentMenu, "Hint");
+  form.addMenu("hint", "", "Hint").Shortcut = "F2";
   form.handle("expc_Click", [this] { entry_->Checked = !entry_->Checked; });
   form.handle("hint_Click", std::move(hint));
 }
@@ -41,6 +42,21 @@ int ExpertMenu::decide(const std::function<int()>& think, bool letEventsThrough)
     }
   }
   return answer.get();
+}
+
+void ExpertMenu::showMove(const std::vector<Element*>& marks, int width) {
+  std::vector<Element> before;
+  for (Element* mark : marks) {
+    before.push_back(*mark);
+    mark->BorderWidth = width;
+    mark->BorderColor = color::Yellow;
+  }
+  form_.Refresh();
+  form_.wait(kComputerPause);
+  for (size_t i = 0; i < marks.size(); ++i) {
+    marks[i]->BorderWidth = before[i].BorderWidth;
+    marks[i]->BorderColor = before[i].BorderColor;
+  }
 }
 
 int expertMillis() {

@@ -39,6 +39,10 @@ std::string numberHead(const std::string& s) {
 
 }  // namespace
 
+Rect centredOn(Point middle, double width, double height) {
+  return {middle.x - width / 2, middle.y - height / 2, width, height};
+}
+
 Element& placed(Element& e, double left, double top, double width, double height) {
   e.Left = left;
   e.Top = top;
@@ -57,6 +61,17 @@ Element& placedLine(Element& e, const Segment& s) {
   e.X2 = s.x2;
   e.Y2 = s.y2;
   return e;
+}
+
+ElementArray& addRings(Form& form, int count, const std::function<Rect(int)>& at, int fill) {
+  ElementArray& rings = form.addArray("Shape1", Kind::Shape, 1, count);
+  for (Element& ring : rings) {
+    placed(ring, at(ring.index));
+    ring.Shape = Circle;
+    ring.FillStyle = 0;
+    ring.FillColor = fill;
+  }
+  return rings;
 }
 
 Element& captioned(Element& e, const std::string& caption, double fontSize, bool bold) {

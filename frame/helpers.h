@@ -1,17 +1,24 @@
 // Small helpers that every board form needs around its elements.
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace vrask {
 
 struct Element;
+class ElementArray;
 class Form;
 
 // Where a block of elements stands on its form, in twips from the top left.
 struct Place {
   double left = 0;
   double top = 0;
+};
+
+// A point of a drawing on the form, in twips.
+struct Point {
+  double x = 0, y = 0;
 };
 
 // Where an element stands on its form, in twips: its box...
@@ -23,11 +30,19 @@ struct Segment {
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
 };
 
+// The box of `width` by `height` centred on `middle`.
+Rect centredOn(Point middle, double width, double height);
+
 // Sets where `e` stands on its form, in twips, and hands it back.
 Element& placed(Element& e, double left, double top, double width, double height);
 Element& placed(Element& e, const Rect& r);
 // Sets the ends of the drawn line `e`, and hands it back.
 Element& placedLine(Element& e, const Segment& s);
+
+// The rings `Shape1(1..count)` that show the state of a board's squares:
+// circles, ring s where `at(s)` places it, filled with `fill` when a square's
+// state fills it.
+ElementArray& addRings(Form& form, int count, const std::function<Rect(int)>& at, int fill);
 
 // A label that shows `caption` on the form's background, in the form's font
 // at `fontSize` points.

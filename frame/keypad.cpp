@@ -122,6 +122,14 @@ void Keypad::focusText() {
   setDefaultButton(form_, *enter_);
 }
 
+bool Keypad::takeListRow(const Element& list) {
+  if (list.ListIndex < 0 || list.ListIndex >= list.ListCount()) return false;
+  if (!on()) toggleFromMenu();
+  text_->Visible = true;
+  text_->Text = list.List.at(static_cast<size_t>(list.ListIndex));
+  return true;
+}
+
 bool Keypad::on() const {
   return entry_->Checked;
 }

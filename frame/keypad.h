@@ -48,6 +48,10 @@ class Keypad {
   void toggleFromMenu();
   // Focus to `Text1`, which makes the enter button the default.
   void focusText();
+  // A row chosen in a list of line numbers (a hint list) goes into `Text1`,
+  // the keypad switched on first as its menu entry would. False, and nothing
+  // changes, when no row of `list` is chosen.
+  bool takeListRow(const Element& list);
 
   // True while `shwkey` is ticked.
   bool on() const;

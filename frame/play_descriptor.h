@@ -69,6 +69,8 @@ struct PlayDescriptor {
   // The expert's move for the side to move: the number of the target of the
   // kind in play; 0 when there is none. Empty on a board without an expert.
   std::function<int(Form&)> expertMove{};
+  // What `expertMove` answers when there is no move, where 0 is a target.
+  int noExpertMove = 0;
 
   // Where a finished game is written: the round list and the labels of the
   // two totals.

@@ -100,7 +100,7 @@ class Form1large : public Form, private BoardFrame {
   // --- the expert (Form1large_expert.cpp) -------------------------------------
   void expertLineMove();
   bool lineScores(int L);
-  int expertLineChoice();
+  int expertLineChoice(bool letEventsThrough);
   int expertCircleChoice();
   void hint_Click();
 

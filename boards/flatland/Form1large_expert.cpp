@@ -33,7 +33,7 @@ int expertColour(const Element& line) {
 void Form1large::expertLineMove() {
   compbusy = 1;
   turnflag = 0;
-  int L = expertLineChoice();
+  int L = expertLineChoice(true);
   bool scores = lineScores(L);
   takeLine(L);
   if (scores) {
@@ -57,8 +57,11 @@ bool Form1large::lineScores(int L) {
   return false;
 }
 
-// The search works on copies, so that the window may go on while it runs.
-int Form1large::expertLineChoice() {
+// The search works on copies, so that the window may go on while it runs;
+// with `letEventsThrough` (the computer's move) the clicks reach the handlers
+// meanwhile and `compbusy` keeps them out. The hint, which runs between the
+// player's moves, lets nothing in, as any wait.
+int Form1large::expertLineChoice(bool letEventsThrough) {
   std::array<bool, kSquares + 1> shows{};
   for (int s = 1; s <= kSquares; ++s) shows.at(s) = squareShows(s);
   auto think = [sqline = sqline, lineown = lineown, shows, world = bubbleland()] {
@@ -66,7 +69,7 @@ int Form1large::expertLineChoice() {
         sqline, lineown, [&shows](int s) { return shows.at(s); }, world,
         expert::Budget::forMillis(expertMillis()));
   };
-  return expert_->decide(think, true);
+  return expert_->decide(think, letEventsThrough);
 }
 
 int Form1large::expertCircleChoice() {
@@ -91,7 +94,7 @@ int Form1large::expertCircleChoice() {
 
 int Form1large::expertMove() {
   if (gameover == 1) return 0;
-  if (gamemode == Ombrel) return expertLineChoice();
+  if (gamemode == Ombrel) return expertLineChoice(false);
   return isVraskMode(gamemode) ? expertCircleChoice() : 0;
 }
 
@@ -102,20 +105,9 @@ void Form1large::hint_Click() {
   int n = expertMove();
   if (n == 0) return;
   if (gamemode == Ombrel) {
-    std::vector<int> lines{n};
-    if (bubbleland() && twinOf(n) != 0) lines.push_back(twinOf(n));
-    std::vector<Element> before;
-    for (int line : lines) {
-      before.push_back(ln1(line));
-      ln1(line).BorderWidth = kMarkedWidth;
-      ln1(line).BorderColor = color::Yellow;
-    }
-    Refresh();
-    wait(kComputerPause);
-    for (size_t i = 0; i < lines.size(); ++i) {
-      ln1(lines[i]).BorderWidth = before[i].BorderWidth;
-      ln1(lines[i]).BorderColor = before[i].BorderColor;
-    }
+    std::vector<Element*> lines{&ln1(n)};
+    if (bubbleland() && twinOf(n) != 0) lines.push_back(&ln1(twinOf(n)));
+    expert_->showMove(lines, kMarkedWidth);
   } else {
     int fill = Shape1(n).FillColor;
     Shape1(n).FillColor = color::Yellow;

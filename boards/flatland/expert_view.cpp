@@ -1,31 +1,18 @@
 #include "boards/flatland/expert_view.h"
 
-#include <set>
+#include "frame/expert_lines.h"
 
 namespace vrask::flatland {
 
 expert::LineProblem lineProblem(const SideTable& sqline, const LineOwners& lineown,
                                 const std::function<bool(int)>& shows, bool bubbleland,
                                 std::vector<int>& lineOfMove) {
-  expert::LineProblem p;
-  std::set<int> lines;
-  for (int s = 1; s <= kSquares; ++s) {
-    if (!shows(s)) continue;
-    p.cells.emplace_back(sqline.at(s).begin() + 1, sqline.at(s).end());
-    lines.insert(sqline.at(s).begin() + 1, sqline.at(s).end());
-  }
-  lineOfMove.clear();
-  for (int line : lines) {
-    int twin = bubbleland ? twinOf(line) : 0;
-    // The pair is one move, listed under its lower number.
-    if (twin != 0 && twin < line) continue;
-    std::vector<int> move{line};
-    if (twin != 0) move.push_back(twin);
-    p.moves.push_back(move);
-    p.taken.push_back(lineown.at(static_cast<size_t>(line)) != 0);
-    lineOfMove.push_back(line);
-  }
-  return p;
+  ExpertLines view = expertLines(
+      cellBoard(sqline), shows,
+      [&lineown](int line) { return lineown.at(static_cast<size_t>(line)) != 0; },
+      bubbleland ? std::function<int(int)>(twinOf) : nullptr);
+  lineOfMove = std::move(view.lineOfMove);
+  return std::move(view.problem);
 }
 
 int expertLine(const SideTable& sqline, const LineOwners& lineown,

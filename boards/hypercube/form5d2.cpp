@@ -153,12 +153,8 @@ void form5d2::addSegments() {
 
 // The ring `Shape1(s)` and over it the circle `Label11(s)` a player clicks.
 void form5d2::addSquares() {
-  Shape1_ = &addArray("Shape1", Kind::Shape, 1, kSquares);
+  Shape1_ = &addRings(*this, kSquares, lay::ringAt, kCircleColour);
   for (Element& ring : *Shape1_) {
-    placed(ring, lay::ringAt(ring.index));
-    ring.Shape = Circle;
-    ring.FillStyle = 0;
-    ring.FillColor = kCircleColour;
     ring.BorderColor = color::Black;
     ring.Visible = false;
   }
@@ -197,16 +193,14 @@ void form5d2::addLegend() {
   const std::array<const char*, 10> captions{
       "White cube", "|", "Red cube", "|", "Black cube", "|", "Blue cube", "White cube", "", ""};
   for (Element& label : *Label10_) {
-    double top = lay::kLegendTop + lay::kLegendStep * label.index / 2.0;
-    if (label.index == 7) top = lay::kLegendTop + lay::kLegendStep * 4;
-    placed(captioned(label, captions.at(label.index), 9, true),
-           {lay::kLegendLeft, top, lay::kLegendWidth, lay::kRowHeight});
+    // The name that closes the ring stands under the last bar.
+    double row = label.index == 7 ? 4 : label.index / 2.0;
+    placed(captioned(label, captions.at(label.index), 9, true), lay::legendRow(row));
     label.Alignment = AlignCenter;
   }
-  // Blue to White closes the ring: the step between the last two names.
+  // Blue to White closes the ring: the bar between the last two names.
   Label10(8).Caption = std::string("|");
-  placed(Label10(8), {lay::kLegendLeft, lay::kLegendTop + lay::kLegendStep * 3.5, lay::kLegendWidth,
-                      lay::kRowHeight});
+  placed(Label10(8), lay::legendRow(3.5));
   placed(captioned(Label10(9), kFirstTimeHint, 8), lay::kFirstTimeHint);
   Label10(9).ForeColor = color::Blue;
 }
@@ -318,7 +312,7 @@ void form5d2::addGamesMenu() {
   gmzz = &addMenu("gmzz", "", "Games");
   gm_ = &addMenuArray("gm", "gmzz", 0, 15);
   for (Element& entry : *gm_) entry.Caption = std::string("-");  // a separator
-  for (const GameEntry& game : kGames) gm(game.index).Caption = game.caption;
+  for (const GameEntry& game : kGames) gm(game.index).Caption = game.title.entry;
 }
 
 // Players and options close with the first move of a round; the grid, the
@@ -331,6 +325,7 @@ void form5d2::addOptionsMenus() {
   pme = &addMenu("pme", "", "Options");
   hidmov = &addMenu("hidmov", "pme", "Hide non-scoring moves in Vrask games");
   hnt = &addMenu("hnt", "pme", "Hint when no good moves left (computer)");
+  expert_.emplace(*this, "pme", [this] { hint_Click(); });
   addMenu("hnts", "", "Hints");
   shint = &addMenu("shint", "hnts", "Super Hint: How many non-scoring moves left (your turn)");
   bhint = &addMenu("bhint", "hnts", "Best Hint: Tell you what non-scoring moves are left");
@@ -359,6 +354,8 @@ void form5d2::registerHandlers() {
   handle("hnt_Click", [this] { hintMenu_Click(*hnt, nullptr); });
   handle("shint_Click", [this] { hintMenu_Click(*shint, Label34); });
   handle("bhint_Click", [this] { hintMenu_Click(*bhint, List3); });
+  handle("List3_Click", [this] { List3_Click(false); });
+  handle("List3_DblClick", [this] { List3_Click(true); });
 }
 
 void form5d2::registerVariables() {

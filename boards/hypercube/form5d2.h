@@ -15,6 +15,7 @@
 #include <optional>
 
 #include "boards/hypercube/computer.h"
+#include "frame/expert_menu.h"
 #include "frame/grid_switch.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
@@ -28,6 +29,12 @@ class form5d2 : public Form {
  public:
   explicit form5d2(Program& program) : Form(program, "form5d2") {}
   void Form_Load() override;
+
+  // The expert's line for the side to move, as the index of its hit area;
+  // kNoExpertMove outside Ombrel and Zorvex (Lines) and once the round is
+  // over. Line index 0 is a line, so "none" is not 0 here.
+  static constexpr int kNoExpertMove = -1;
+  int expertMove();
 
  private:
   // --- design and load (form5d2.cpp) ---------------------------------------
@@ -87,8 +94,15 @@ class form5d2 : public Form {
   void computerLineMove();
   void compmov(int windex);
   void hintlist();
+  void List3_Click(bool play);
   void computerSquareMove();
   void computerLineVraskMove();
+
+  // --- the expert computer (form5d2_expert.cpp) -------------------------------
+  void expertLineMove();
+  bool lineScores(int slot) const;
+  int expertLineChoice();
+  void hint_Click();
 
   // --- elements by the board's own names, and what the rules ask of them ---
   Element& Label1(int i) { return (*Label1_)[i]; }
@@ -124,6 +138,7 @@ class form5d2 : public Form {
   std::optional<OtherGames> otherGames_;
   std::optional<RoundList> roundList_;
   std::optional<TurnFlow> flow_;
+  std::optional<ExpertMenu> expert_;
 
   // The drawn segments of each line (slots 1..80): four for a cube line,
   // three for a connector.

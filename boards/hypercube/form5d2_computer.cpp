@@ -29,6 +29,10 @@ constexpr double kLineVraskPause = 2;
 // flash that follows it lets clicks in.
 void form5d2::computerLineMove() {
   sidecount = countPaintedSides(sqside);
+  if (expert_->on()) {
+    expertLineMove();
+    return;
+  }
   if (int slot = lineToTake(sqln, sqside, sidecount); slot != 0) {
     compbusy = 1;
     redtoplay = 0;
@@ -38,7 +42,7 @@ void form5d2::computerLineMove() {
   }
   candlist = safeLines(sqln, sidecount, lnown);
   if (candlist.empty()) {
-    if (hnt->Checked) MsgBox(kNoGoodMoves);
+    if (hnt->Checked) MsgBox(kNoGoodMovesLeft);
     candlist = freeLines(lnown);
   }
   compbusy = 0;
@@ -75,13 +79,20 @@ void form5d2::hintlist() {
   std::vector<int> safe = safeLines(sqln, countPaintedSides(sqside), lnown);
   if (!safe.empty()) {
     for (int slot : safe) List3->AddItem(std::to_string(gridNumber(slot)));
-    Label34->Caption = safeMovesLeft(static_cast<int>(safe.size()));
+    Label34->Caption = nonScoringMovesLeft(static_cast<int>(safe.size()));
   } else {
-    if (Label34->Visible) Label34->Caption = kNoSafeLinesLeft;
+    if (Label34->Visible) Label34->Caption = kNoNonScoringMovesLeft;
     Label34->Visible = false;
     List3->Visible = false;
   }
   if (gamenum == 0 || gamenum == 2) redtoplay = 0;
+}
+
+// A number chosen in the hint list goes to the keypad; a double click plays
+// it as the keypad's enter would, so it is held out while the computer
+// captures.
+void form5d2::List3_Click(bool play) {
+  if (keypad_->takeListRow(*List3) && play) Command3_Click();
 }
 
 // The free square with the most painted sides, shown in yellow for two
@@ -92,7 +103,7 @@ void form5d2::computerSquareMove() {
   int square = squareToTake(sidecount, sqtaken);
   if (square == 0) return;
   wait(kSquarePause);
-  flow_->say(kRedsTurn, color::Red);
+  flow_->say(kRedPlayersTurn, color::Red);
   flow_->showTurn(Side::Red);
   for (int k = 1; k <= 4; ++k) paintLine(sqln.at(square).at(k), kPainted, color::Yellow);
   flow_->showLastMove(square);
@@ -114,7 +125,7 @@ void form5d2::computerSquareMove() {
     paintLine(slot, kPainted, color::Red);
     paintSides(slot, color::Red);
   }
-  flow_->say(kBluesTurn, color::Blue);
+  flow_->say(kBluePlayersTurn, color::Blue);
   flow_->showTurn(Side::Blue);
   judge();
   if (movesleft < 1 && overflag == 0) {

@@ -13,17 +13,6 @@ namespace vrask {
 
 using namespace hypercube;
 
-namespace {
-
-const char* gameName(int index) {
-  for (const GameEntry& game : kGames) {
-    if (game.index == index) return game.name;
-  }
-  return "";
-}
-
-}  // namespace
-
 // A game is chosen between rounds; the board is not reset, New does that.
 // Dorvel needs two people, so with one player it is refused and nothing
 // changes.
@@ -41,7 +30,8 @@ void form5d2::gm_Click(int Index) {
   for (Element& entry : *gm_) entry.Checked = false;
   gm(Index).Checked = true;
   gamenum = Index;
-  Label36->Caption = gameName(Index);
+  const GameTitle* title = titleOf(kGames, Index);
+  Label36->Caption = title != nullptr ? title->name : "";
   if (Index == 0) {
     flow_->say(flow_->status(), color::Blue);
     flow_->showTurn(Side::Blue);
@@ -84,7 +74,7 @@ void form5d2::shgrid_Click(bool on) {
 // and stay unticked. A ticked hint shows its label or list.
 void form5d2::hintMenu_Click(Element& entry, Element* shows) {
   if (gamenum != 0) {
-    MsgBox(kOmbrelHintOnly);
+    MsgBox(kHintForOmbrelOnly);
     entry.Checked = false;
     return;
   }
@@ -127,7 +117,7 @@ void form5d2::resetRound() {
     shint->Enabled = true;
     bhint->Enabled = true;
   }
-  if (lineGame()) Label34->Caption = safeMovesLeft(kLines);
+  if (lineGame()) Label34->Caption = nonScoringMovesLeft(kLines);
 }
 
 // In Ombrel and Zorvex Lines the turn runs on from the last round. The other
@@ -143,7 +133,7 @@ void form5d2::openRound() {
   }
   firstturn = 0;
   if (!onePlayer()) return;
-  flow_->say(kRedsTurn, color::Red);
+  flow_->say(kRedPlayersTurn, color::Red);
   flow_->showTurn(Side::Red);
   pl_Click();
   if (squareGame()) {

@@ -115,7 +115,7 @@ void form5d2::takeSquare(int square, int colour) {
 
 void form5d2::passTurn() {
   bool blueNext = flow_->moverColour() == color::Red;
-  flow_->say(blueNext ? kBluesTurn : kRedsTurn, blueNext ? color::Blue : color::Red);
+  flow_->say(blueNext ? kBluePlayersTurn : kRedPlayersTurn, blueNext ? color::Blue : color::Red);
   flow_->showTurn(blueNext ? Side::Blue : Side::Red);
 }
 

@@ -61,10 +61,6 @@ Point middle(Point a, Point b) {
   return along(a, b, 0.5);
 }
 
-Rect around(Point c, double width, double height) {
-  return {c.x - width / 2, c.y - height / 2, width, height};
-}
-
 // Where a ray from `from` in direction `dir` leaves the box.
 Point toEdge(const Rect& box, Point from, Point dir) {
   double t = 1e9;
@@ -128,17 +124,17 @@ Rect hitArea(int index) {
   if (isConnector(index)) {
     int step = (index - kCubeLines) / kCorners;
     Segment s = connectorSegment(step, (index - kCubeLines) % kCorners, InNormal);
-    return around(along(from(s), to(s), kConnectorHit), kHitWidth, kHitHeight);
+    return centredOn(along(from(s), to(s), kConnectorHit), kHitWidth, kHitHeight);
   }
   const Picture& p = normalPictureOf(index / kEdges);
   Segment s = edgeOf(p, outerFace(p), index % kEdges);
-  return around(middle(from(s), to(s)), kHitWidth, kHitHeight);
+  return centredOn(middle(from(s), to(s)), kHitWidth, kHitHeight);
 }
 
 Rect secondHitArea(int index) {
   int step = (index - kCubeLines) / kCorners;
   Segment s = connectorSegment(step, (index - kCubeLines) % kCorners, InLarge);
-  return around(along(from(s), to(s), kConnectorHit), kHitWidth, kHitHeight);
+  return centredOn(along(from(s), to(s), kConnectorHit), kHitWidth, kHitHeight);
 }
 
 namespace {
@@ -165,11 +161,17 @@ Point squareCentre(int square) {
 }  // namespace
 
 Rect ringAt(int square) {
-  return around(squareCentre(square), kRing, kRing);
+  return centredOn(squareCentre(square), kRing, kRing);
 }
 
 Rect circleAt(int square) {
-  return around(squareCentre(square), kCircle, kCircle);
+  return centredOn(squareCentre(square), kCircle, kCircle);
+}
+
+Rect legendRow(double row) {
+  constexpr Rect kFirstName{60, 480, 1000, kRowHeight};
+  constexpr double kStep = 540;
+  return {kFirstName.left, kFirstName.top + kStep * row, kFirstName.width, kFirstName.height};
 }
 
 }  // namespace vrask::hypercube::layout

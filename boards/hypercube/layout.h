@@ -11,11 +11,9 @@
 
 namespace vrask::hypercube::layout {
 
+using vrask::Point;
 using vrask::Rect;
 using vrask::Segment;
-struct Point {
-  double x = 0, y = 0;
-};
 
 // One picture: its box, the ring step it shows (the step's first cube
 // outside, normal or large, and its second cube nested small inside), and the
@@ -73,11 +71,9 @@ Rect circleAt(int square);
 inline constexpr double kFormWidth = 17800;
 inline constexpr double kFormHeight = 11800;
 
-// The legend of the ring at the left: five cube names, one under another.
-inline constexpr double kLegendLeft = 60;
-inline constexpr double kLegendWidth = 1000;
-inline constexpr double kLegendTop = 480;
-inline constexpr double kLegendStep = 540;
+// The legend of the ring at the left: five cube names one under another and
+// a bar between each two. `row` counts the names from 0, a bar half a row.
+Rect legendRow(double row);
 // The first-time hint under the legend, until the first move.
 inline constexpr Rect kFirstTimeHint{60, 2700, 1620, 1800};
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "boards/hypercube/captions.h"
+#include "boards/hypercube/form5d2.h"
 #include "boards/hypercube/layout.h"
 #include "boards/hypercube/look.h"
 #include "boards/hypercube/tables.h"
@@ -31,9 +32,9 @@ int gameNumber(Form& form) {
 std::vector<Setup> allSetups() {
   std::vector<Setup> setups;
   for (const GameEntry& game : kGames) {
-    setups.push_back({game.caption, {{"gm", game.index}}});
+    setups.push_back({game.title.entry, {{"gm", game.index}}});
     setups.push_back(
-        {std::string(game.caption) + ", players swapped", {{"pl", 1}, {"gm", game.index}}});
+        {std::string(game.title.entry) + ", players swapped", {{"pl", 1}, {"gm", game.index}}});
   }
   return setups;
 }
@@ -43,7 +44,7 @@ std::vector<Setup> benchSeries() {
   std::vector<Setup> series;
   for (const GameEntry& game : kGames) {
     for (int index : kComputerGames) {
-      if (index == game.index) series.push_back({game.caption, {{"gm", game.index}}});
+      if (index == game.index) series.push_back({game.title.entry, {{"gm", game.index}}});
     }
   }
   return series;
@@ -141,6 +142,8 @@ PlayDescriptor play() {
       .finished = [](Form& form) { return numberOf(form, "overflag") == 1; },
       .points = points,
       .scoresDisagree = scoresDisagree,
+      .expertMove = [](Form& form) { return dynamic_cast<form5d2&>(form).expertMove(); },
+      .noExpertMove = form5d2::kNoExpertMove,
       .enterButton = "Command3",
       .keypadOpener = {"Command4", std::nullopt},
   };

@@ -7,6 +7,7 @@
 #include "boards/quennel/look.h"
 #include "frame/expert_menu.h"
 #include "frame/grid_switch.h"
+#include "frame/handler_table.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
 #include "frame/round_list.h"
@@ -267,24 +268,17 @@ void Quennel::addHelpMenu() {
 }
 
 void Quennel::registerHandlers() {
-  using Indexed = void (Quennel::*)(int);
-  for (const auto& [name, entry] : std::initializer_list<std::pair<const char*, Indexed>>{
-           {"sdfx_Click", &Quennel::sdfx_Click},
-           {"Label12_Click", &Quennel::Label12_Click},
-           {"ga_Click", &Quennel::ga_Click},
-           {"tetsize_Click", &Quennel::tetsize_Click},
-           {"ip_Click", &Quennel::ip_Click},
-           {"Command8_Click", &Quennel::Command8_Click}}) {
-    handleIndexed(name, [this, handler = entry](int i) { (this->*handler)(i); });
-  }
-  using Plain = void (Quennel::*)();
-  for (const auto& [name, entry] : std::initializer_list<std::pair<const char*, Plain>>{
-           {"hidmov_Click", &Quennel::hidmov_Click},
-           {"new_Click", &Quennel::new_Click},
-           {"Command3_Click", &Quennel::new_Click},
-           {"Timer1_Timer", &Quennel::Timer1_Timer}}) {
-    handle(name, [this, handler = entry] { (this->*handler)(); });
-  }
+  bindHandlers(*this,
+               {{"sdfx_Click", &Quennel::sdfx_Click},
+                {"Label12_Click", &Quennel::Label12_Click},
+                {"ga_Click", &Quennel::ga_Click},
+                {"tetsize_Click", &Quennel::tetsize_Click},
+                {"ip_Click", &Quennel::ip_Click},
+                {"Command8_Click", &Quennel::Command8_Click}},
+               {{"hidmov_Click", &Quennel::hidmov_Click},
+                {"new_Click", &Quennel::new_Click},
+                {"Command3_Click", &Quennel::new_Click},
+                {"Timer1_Timer", &Quennel::Timer1_Timer}});
   handle("howmany_Click", [this] { MsgBox(kPyramids, kPyramidsTitle); });
 }
 

@@ -23,7 +23,6 @@
 
 #include "boards/quennel/computer.h"
 #include "boards/quennel/tables.h"
-#include "frame/expert_lines.h"
 #include "frame/grid_switch.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
@@ -115,7 +114,6 @@ class Quennel : public Form {
   void faceBrain();
 
   // --- the expert (Quennel_expert.cpp) ----------------------------------------
-  LinePosition linePosition() const;
   int expertLineChoice();
   void expertLineMove();
   void expertHint_Click();

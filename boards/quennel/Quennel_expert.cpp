@@ -3,13 +3,13 @@
 // the yellow lines and the judging around them are the same. The face games
 // keep the face brain: the expert plays the line games only. "Hint" shows a
 // player the line the expert would draw.
+#include <algorithm>
 #include <string>
 
 #include "boards/quennel/Quennel.h"
+#include "boards/quennel/expert_view.h"
 #include "boards/quennel/look.h"
-#include "frame/expert_lines.h"
 #include "frame/expert_menu.h"
-#include "frame/helpers.h"
 
 namespace vrask {
 
@@ -18,24 +18,11 @@ using namespace quennel;
 Quennel::Quennel(Program& program) : Form(program, "Quennel") {}
 Quennel::~Quennel() = default;
 
-// The faces of the size by their real lines, and the lines taken.
-LinePosition Quennel::linePosition() const {
-  LinePosition position;
-  for (int f = 1; f <= faces(); ++f) {
-    position.cells.emplace_back(celllines.at(f).begin() + 1, celllines.at(f).end());
-  }
-  position.taken.resize(linetaken.size());
-  for (size_t line = 0; line < linetaken.size(); ++line) {
-    position.taken[line] = linetaken.at(line) != 0;
-  }
-  return position;
-}
-
 // The real line the expert draws for the side to move; 0 when none is free.
 // The search works on a copy, so that the window can paint while it runs.
 int Quennel::expertLineChoice() {
-  auto think = [position = linePosition()] {
-    return expertLineOf(position, expert::Budget::forMillis(expertMillis()));
+  auto think = [view = expertLinesOf(celllines, linetaken, faces())] {
+    return view.bestLine(expert::Budget::forMillis(expertMillis()));
   };
   // The line brain's pauses let nothing through either.
   return expert_->decide(think, false);
@@ -45,10 +32,15 @@ int Quennel::expertLineChoice() {
 // judged, and Red goes again; one that closes none hands the turn to Blue.
 void Quennel::expertLineMove() {
   whosnext = 0;
-  LinePosition position = linePosition();
+  sidecount = countMarkedSides(sidemark, faces());
+  std::vector<int> closable = facesToClose(sidecount, faces());
   int line = expertLineChoice();
   if (line == 0) return;
-  if (position.completes(line)) {
+  bool closes = std::any_of(closable.begin(), closable.end(), [this, line](int f) {
+    const auto& sides = celllines.at(static_cast<size_t>(f));
+    return std::find(sides.begin() + 1, sides.end(), line) != sides.end();
+  });
+  if (closes) {
     computerTakesLine(line);
     linecheck();
     return;
@@ -68,7 +60,7 @@ int Quennel::expertMove() {
 void Quennel::expertHint_Click() {
   int screen = expertMove();
   if (screen == 0) return;
-  flashInYellow(*this, {&LN(screen)}, kTaken, kComputerPause);
+  expert_->showMove({&LN(screen)}, kTaken);
   flow_->say("Hint: " + std::to_string(screen), flow_->moverColour());
 }
 

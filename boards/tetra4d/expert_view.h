@@ -7,11 +7,15 @@
 #pragma once
 
 #include "boards/tetra4d/rules.h"
+#include "frame/cell_board.h"
 #include "frame/expert_lines.h"
 
 namespace vrask::tetra4d {
 
-// The triangles by their slots, and the slots taken.
-LinePosition linePosition(const Board& board);
+// The triangles 1..36 of the level by their slots.
+CellBoard triangleCells(int level);
+
+// The line game as it stands, each move known by its slot.
+ExpertLines expertLinesOf(const Board& board);
 
 }  // namespace vrask::tetra4d

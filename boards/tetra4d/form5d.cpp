@@ -9,6 +9,7 @@
 #include "boards/tetra4d/look.h"
 #include "frame/expert_menu.h"
 #include "frame/grid_switch.h"
+#include "frame/handler_table.h"
 #include "frame/helpers.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
@@ -311,17 +312,13 @@ void form5d::addMenus() {
 }
 
 void form5d::registerHandlers() {
-  using Indexed = void (form5d::*)(int);
-  const std::array<std::pair<const char*, Indexed>, 7> indexed{
-      {{"Label1_Click", &form5d::Label1_Click},
-       {"Label9_Click", &form5d::Label9_Click},
-       {"Label99_Click", &form5d::Label99_Click},
-       {"game_Click", &form5d::game_Click},
-       {"lvm_Click", &form5d::lvm_Click},
-       {"pl_Click", &form5d::pl_Click},
-       {"Option1_Click", &form5d::Option1_Click}}};
-  for (const auto& [name, fn] : indexed)
-    handleIndexed(name, [this, fn = fn](int i) { (this->*fn)(i); });
+  bindHandlers(*this, {{"Label1_Click", &form5d::Label1_Click},
+                       {"Label9_Click", &form5d::Label9_Click},
+                       {"Label99_Click", &form5d::Label99_Click},
+                       {"game_Click", &form5d::game_Click},
+                       {"lvm_Click", &form5d::lvm_Click},
+                       {"pl_Click", &form5d::pl_Click},
+                       {"Option1_Click", &form5d::Option1_Click}});
   // New stands in the menu and as the button under the round list.
   handleIndexed("gmm_Click", [this](int) { gmm_Click(); });
   handle("Command1_Click", [this] { gmm_Click(); });

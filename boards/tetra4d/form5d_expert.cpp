@@ -13,7 +13,6 @@
 #include "boards/tetra4d/form5d.h"
 #include "boards/tetra4d/look.h"
 #include "frame/expert_menu.h"
-#include "frame/helpers.h"
 
 namespace vrask {
 
@@ -26,8 +25,8 @@ form5d::~form5d() = default;
 // search works on a copy, so that the window goes on while it runs; the
 // board's pauses let events through, and `compbusy` keeps moves out.
 int form5d::expertLineChoice() {
-  auto think = [position = linePosition(board_)] {
-    return expertLineOf(position, expert::Budget::forMillis(expertMillis()));
+  auto think = [view = expertLinesOf(board_)] {
+    return view.bestLine(expert::Budget::forMillis(expertMillis()));
   };
   return expert_->decide(think, true);
 }
@@ -70,7 +69,7 @@ void form5d::expertHint_Click() {
   if (compbusy == 1) return;
   int number = expertMove();
   if (number == 0) return;
-  flashInYellow(*this, segmentsOf(slotOfNumber(number)), kPlayedWidth, kComputerPause);
+  expert_->showMove(segmentsOf(slotOfNumber(number)), kPlayedWidth);
   flow_->say("Hint: " + std::to_string(number), flow_->moverColour());
 }
 

@@ -6,6 +6,7 @@
 #include "boards/triangular/captions.h"
 #include "boards/triangular/layout.h"
 #include "boards/triangular/look.h"
+#include "frame/expert_menu.h"
 #include "frame/session_menu.h"
 #include "launcher/shared_state.h"
 
@@ -89,6 +90,7 @@ void Triang::addMenus() {
   addOptionsMenu(
       *this, [this](bool on) { shgrid_Click(on); }, [this] { Command6_Click(); },
       lay::keypadUnder(panel_->keypad()));
+  expert_ = std::make_unique<ExpertMenu>(*this, "ks", [this] { hint_Click(); });
   addBoardMenu();
   otherGames_ = std::make_unique<OtherGames>(
       *this, OtherGamesNames{.twoD = "fcbm", .threeD = "zcbm", .fourD = "cbm"});

@@ -8,10 +8,11 @@
 // status label `Label33` is the colour the next circle move paints in, and
 // the points are the captions of `Label5(0)` and `Label6`.
 //
-// The handlers live in five files: Triang.cpp (the design and the load),
+// The handlers live in six files: Triang.cpp (the design and the load),
 // Triang_options.cpp (menus, sizes, worlds, New), Triang_play.cpp (clicks
-// and typed moves), Triang_scoring.cpp (judging and the end of a game) and
-// Triang_computer.cpp (the computer's moves).
+// and typed moves), Triang_scoring.cpp (judging and the end of a game),
+// Triang_computer.cpp (the computer's moves) and Triang_expert.cpp (the
+// expert's lines and the hint).
 #pragma once
 
 #include <array>
@@ -26,11 +27,16 @@
 
 namespace vrask {
 
+class ExpertMenu;
+
 class Triang : public Form, private BoardFrame {
  public:
   explicit Triang(Program& program);
   ~Triang() override;
   void Form_Load() override;
+  // The line the expert would draw for the side to move in Ombrel, 0 in the
+  // circle games or when none is left.
+  int expertMove();
 
  private:
   // --- design and load (Triang.cpp) --------------------------------------------
@@ -99,11 +105,18 @@ class Triang : public Form, private BoardFrame {
   void computerLineMove();
   void closeCell(int cell);
   void drawSafeLine();
+  void drawLineAndPass(int line);
   void drawComputerLine(int line);
   void bbland(int line);
   void redchack();
   void paintRedExtension(int cell);
   void compmove(int cell);
+
+  // --- the expert (Triang_expert.cpp) ---------------------------------------------
+  void expertLineMove();
+  bool closesCell(int line) const;
+  int expertLineChoice(bool letEventsThrough);
+  void hint_Click();
 
   // --- elements by the board's own names ----------------------------------------
   Element& ln1(int i) { return (*board_.lines)[i]; }
@@ -114,6 +127,7 @@ class Triang : public Form, private BoardFrame {
   bool drawn(int line) const;
 
   BoardElements board_{};  // ln1, Shape1, Label1, Label2
+  std::unique_ptr<ExpertMenu> expert_;
   ElementArray *game_ = nullptr, *ver_ = nullptr, *szmen_ = nullptr;
   // The status, the game's name, moves left, and the menus by the sides of
   // the panel.

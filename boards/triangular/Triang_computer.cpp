@@ -8,6 +8,7 @@
 #include "boards/triangular/Triang.h"
 #include "boards/triangular/captions.h"
 #include "boards/triangular/look.h"
+#include "frame/expert_menu.h"
 
 namespace vrask {
 
@@ -17,6 +18,10 @@ using namespace triangular;
 // judged at once so the cell counts for Red and the computer goes again; then
 // a random line that gives no cell its second side, if there is one.
 void Triang::computerLineMove() {
+  if (expert_->on()) {
+    expertLineMove();
+    return;
+  }
   inputlock = 1;
   candidates = cells_.cellsToComplete(sidecount = countMarkedSides(sidemark));
   whosnext = 0;
@@ -35,12 +40,16 @@ void Triang::closeCell(int cell) {
   drawComputerLine(celllines.at(cell).at(static_cast<size_t>(open - marks.begin())));
 }
 
-// A random line among those that give no cell its second side; it closes
-// nothing, so Blue is next.
+// A random line among those that give no cell its second side.
 void Triang::drawSafeLine() {
   candidates = cells_.safeLines(
       sidecount, [this](int line) { return lineowner.at(line) == 0 && lineShows(line); });
-  drawComputerLine(flow_->pickFrom(candidates));
+  drawLineAndPass(flow_->pickFrom(candidates));
+}
+
+// A line that closes nothing: Blue is next.
+void Triang::drawLineAndPass(int line) {
+  drawComputerLine(line);
   Label13->Caption = movesLeft(kLines - linesTakenOrHidden());
   flow_->showTurn(Side::Blue);
   flow_->say(noScore("Blue"), color::Blue);
@@ -73,8 +82,9 @@ void Triang::bbland(int line) {
 }
 
 // The circle games: the lowest free cell among those with the most drawn
-// lines, else a random free cell. It plays only when the status is Red; the
-// count after its move finds the last free cell, which the program plays.
+// lines, else a random free cell. The expert plays no circle game on this
+// board (Triang_expert.cpp says why): this computer plays them either way. It plays only when the
+// status is Red; the count after its move finds the last free cell, which the program plays.
 void Triang::redchack() {
   auto shows = [this](int cell) { return cellShows(cell); };
   linecount = cells_.countSides([this](int line) { return drawn(line); });

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "boards/triangular/Triang.h"
 #include "boards/triangular/captions.h"
 #include "boards/triangular/tables.h"
 #include "frame/cell_board.h"
@@ -118,6 +119,7 @@ PlayDescriptor play() {
       .finished = [](Form& form) { return numberOf(form, "gameover") == 1; },
       .points = shownPoints,
       .scoresDisagree = scoresDisagree,
+      .expertMove = [](Form& form) { return dynamic_cast<Triang&>(form).expertMove(); },
   };
 }
 

@@ -7,6 +7,7 @@
 #include "boards/wall/layout.h"
 #include "boards/wall/look.h"
 #include "frame/grid_switch.h"
+#include "frame/handler_table.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
 #include "frame/round_list.h"
@@ -248,25 +249,16 @@ void vraskthewall::addOptionsMenu() {
 
 // The clicks the wall answers, by the handlers' own names.
 void vraskthewall::registerHandlers() {
-  using Indexed = void (vraskthewall::*)(int);
-  const std::array<std::pair<const char*, Indexed>, 5> indexed{
-      {{"Label9_Click", &vraskthewall::Label9_Click},
-       {"Label13_Click", &vraskthewall::bd_Click},
-       {"bd_Click", &vraskthewall::bd_Click},
-       {"game_Click", &vraskthewall::game_Click},
-       {"ip_Click", &vraskthewall::ip_Click}}};
-  for (const auto& entry : indexed) {
-    handleIndexed(entry.first, [this, handler = entry.second](int i) { (this->*handler)(i); });
-  }
-  using Plain = void (vraskthewall::*)();
-  const std::array<std::pair<const char*, Plain>, 4> plain{
-      {{"ch_Click", &vraskthewall::ch_Click},
-       {"hidmov_Click", &vraskthewall::hidmov_Click},
-       {"new_Click", &vraskthewall::new_Click},
-       {"Command1_Click", &vraskthewall::new_Click}}};
-  for (const auto& entry : plain) {
-    handle(entry.first, [this, handler = entry.second] { (this->*handler)(); });
-  }
+  bindHandlers(*this,
+               {{"Label9_Click", &vraskthewall::Label9_Click},
+                {"Label13_Click", &vraskthewall::bd_Click},
+                {"bd_Click", &vraskthewall::bd_Click},
+                {"game_Click", &vraskthewall::game_Click},
+                {"ip_Click", &vraskthewall::ip_Click}},
+               {{"ch_Click", &vraskthewall::ch_Click},
+                {"hidmov_Click", &vraskthewall::hidmov_Click},
+                {"new_Click", &vraskthewall::new_Click},
+                {"Command1_Click", &vraskthewall::new_Click}});
 }
 
 void vraskthewall::registerVariables() {

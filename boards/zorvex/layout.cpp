@@ -79,10 +79,6 @@ Point across(const Segment& s) {
   return n;
 }
 
-Rect box(Point middle, double width, double height) {
-  return {middle.x - width / 2, middle.y - height / 2, width, height};
-}
-
 }  // namespace
 
 Point nodeAt(Node n) {
@@ -179,8 +175,8 @@ std::array<Rect, kLines + 1> placeNumbers() {
     for (double t : {0.5, 0.4, 0.6, 0.3, 0.7}) {
       for (double side : {1.0, -1.0}) {
         Point at = lerp(s, t);
-        Rect r = box({at.x + side * n.x * kNumberOffset, at.y + side * n.y * kNumberOffset},
-                     kNumberWidth, kNumberHeight);
+        Rect r = centredOn({at.x + side * n.x * kNumberOffset, at.y + side * n.y * kNumberOffset},
+                           kNumberWidth, kNumberHeight);
         double cost = crowding(r, placed);
         if (bestCost < 0 || cost < bestCost) {
           best = r;
@@ -246,11 +242,11 @@ Point circleMiddle(int slot) {
 }  // namespace
 
 Rect ringAt(int slot) {
-  return box(circleMiddle(slot), kRing, kRing);
+  return centredOn(circleMiddle(slot), kRing, kRing);
 }
 
 Rect circleAt(int slot) {
-  return box(circleMiddle(slot), kCircle, kCircle);
+  return centredOn(circleMiddle(slot), kCircle, kCircle);
 }
 
 // A compass under the cube: for each view a needle from its hub towards the

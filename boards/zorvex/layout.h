@@ -8,9 +8,7 @@
 
 namespace vrask::cube::layout {
 
-struct Point {
-  double x = 0, y = 0;
-};
+using vrask::Point;
 
 // A node of the lattice on the screen, in the slanted projection.
 Point nodeAt(Node n);

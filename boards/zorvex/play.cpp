@@ -5,6 +5,7 @@
 
 #include "boards/zorvex/captions.h"
 #include "boards/zorvex/tables.h"
+#include "boards/zorvex/zorvex.h"
 #include "frame/helpers.h"
 #include "toolkit/form.h"
 
@@ -111,12 +112,13 @@ PlayDescriptor play() {
   d.newGame = {"Command7", std::nullopt};
   // The second circle of square 30, `Label9(0)`, is typed as 30.
   d.kinds = {{"Label11", kInvalidLine},
-             {"Label9", kInvalidCircle, [](int c) { return c == 0 ? 30 : c; }}};
+             {"Label9", kInvalidMove, [](int c) { return c == 0 ? 30 : c; }}};
   d.kindInPlay = [](Form& form) { return isLineGame(mode(form)) ? 0U : 1U; };
   d.taken = taken;
   d.finished = [](Form& form) { return numberOf(form, "gameover") == 1; };
   d.points = points;
   d.scoresDisagree = scoresDisagree;
+  d.expertMove = [](Form& form) { return dynamic_cast<zorvex&>(form).expertMove(); };
   d.roundList = "List4";
   d.roundTab = "\t\t";
   return d;

@@ -5,7 +5,9 @@
 #include "boards/zorvex/captions.h"
 #include "boards/zorvex/layout.h"
 #include "boards/zorvex/look.h"
+#include "frame/expert_menu.h"
 #include "frame/grid_switch.h"
+#include "frame/handler_table.h"
 #include "frame/keypad.h"
 #include "frame/other_games.h"
 #include "frame/round_list.h"
@@ -99,13 +101,7 @@ void zorvex::addBoard() {
     e.BorderWidth = 3;
     e.Visible = false;
   }
-  Shape1_ = &addArray("Shape1", Kind::Shape, 1, kSquares);
-  for (Element& ring : *Shape1_) {
-    placed(ring, lay::ringAt(ring.index));
-    ring.Shape = Circle;
-    ring.FillStyle = 0;
-    ring.FillColor = kRingFill;
-  }
+  Shape1_ = &addRings(*this, kSquares, lay::ringAt, kRingFill);
 }
 
 // The hit zones over the lines, the numbers beside them and the circles on
@@ -202,6 +198,7 @@ void zorvex::addMenus() {
   addMenu("newz", "", "&New");
   addGamesMenu();
   addOptionsMenu();
+  expert_ = std::make_unique<ExpertMenu>(*this, "sdz", [this] { hint_Click(); });
   addViewMenu();
   addHintsMenu();
   otherGames_.emplace(*this, OtherGamesNames{.twoD = "cbm", .threeD = "cccbm", .fourD = "ccccbm"});
@@ -221,7 +218,7 @@ void zorvex::addGamesMenu() {
     entry.Visible = entry.index != ZorvexLines && entry.index != OldVraskClassic &&
                     entry.index != OldVraskSetCount;
   }
-  for (const ModeText& mode : kModeTexts) game(mode.mode).Caption = mode.entry;
+  for (const GameEntry& mode : kModeTexts) game(mode.index).Caption = mode.title.entry;
 }
 
 void zorvex::addOptionsMenu() {
@@ -301,23 +298,24 @@ void zorvex::addCumulativePanel() {
 }
 
 void zorvex::registerHandlers() {
-  using Indexed = void (zorvex::*)(int);
-  const std::pair<const char*, Indexed> byIndex[] = {{"Label22_Click", &zorvex::Label22_Click},
-                                                     {"Label11_Click", &zorvex::Label11_Click},
-                                                     {"Label9_Click", &zorvex::Label9_Click},
-                                                     {"game_Click", &zorvex::game_Click},
-                                                     {"ip_Click", &zorvex::ip_Click},
-                                                     {"sskl_Click", &zorvex::sskl_Click},
-                                                     {"Command8_Click", &zorvex::Command8_Click}};
-  for (const auto& [name, fn] : byIndex) handleIndexed(name, [this, fn](int i) { (this->*fn)(i); });
-  using Plain = void (zorvex::*)();
-  const std::pair<const char*, Plain> plain[] = {
-      {"hidmov_Click", &zorvex::hidmov_Click},     {"newz_Click", &zorvex::newz_Click},
-      {"Command7_Click", &zorvex::newz_Click},     {"Command2_Click", &zorvex::Command2_Click},
-      {"Command5_Click", &zorvex::Command5_Click}, {"Label14_Click", &zorvex::Command5_Click},
-      {"cuscore_Click", &zorvex::cuscore_Click},   {"hnt_Click", &zorvex::hnt_Click},
-      {"shint_Click", &zorvex::shint_Click},       {"bhint_Click", &zorvex::bhint_Click}};
-  for (const auto& [name, fn] : plain) handle(name, [this, fn] { (this->*fn)(); });
+  bindHandlers(*this,
+               {{"Label22_Click", &zorvex::Label22_Click},
+                {"Label11_Click", &zorvex::Label11_Click},
+                {"Label9_Click", &zorvex::Label9_Click},
+                {"game_Click", &zorvex::game_Click},
+                {"ip_Click", &zorvex::ip_Click},
+                {"sskl_Click", &zorvex::sskl_Click},
+                {"Command8_Click", &zorvex::Command8_Click}},
+               {{"hidmov_Click", &zorvex::hidmov_Click},
+                {"newz_Click", &zorvex::newz_Click},
+                {"Command7_Click", &zorvex::newz_Click},
+                {"Command2_Click", &zorvex::Command2_Click},
+                {"Command5_Click", &zorvex::Command5_Click},
+                {"Label14_Click", &zorvex::Command5_Click},
+                {"cuscore_Click", &zorvex::cuscore_Click},
+                {"hnt_Click", &zorvex::hnt_Click},
+                {"shint_Click", &zorvex::shint_Click},
+                {"bhint_Click", &zorvex::bhint_Click}});
   handle("List3_Click", [this] { List3_Click(false); });
   handle("List3_DblClick", [this] { List3_Click(true); });
   handleKey("Text1_KeyDown", [this](int, int keyCode) { Text1_KeyDown(keyCode); });

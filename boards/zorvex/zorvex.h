@@ -9,14 +9,16 @@
 // status label `Label33` in every other game; the scores are the captions of
 // `Label5` (Blue) and `Label6` (Red).
 //
-// The handlers live in six files: zorvex.cpp (the design and the load),
+// The handlers live in seven files: zorvex.cpp (the design and the load),
 // zorvex_options.cpp (menus, views, New), zorvex_play.cpp (clicks and typed
 // moves), zorvex_scoring.cpp (counting and the end of a game),
-// zorvex_computer.cpp (the computer's replies) and zorvex_vrask.cpp (Line
-// Vrask, the Vrask move and the hints).
+// zorvex_computer.cpp (the computer's replies), zorvex_vrask.cpp (Line
+// Vrask, the Vrask move and the hints) and zorvex_expert.cpp (the expert's
+// moves and its hint).
 #pragma once
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -32,11 +34,17 @@
 
 namespace vrask {
 
+class ExpertMenu;
+
 class zorvex : public Form {
  public:
   explicit zorvex(Program& program);
   ~zorvex() override;
   void Form_Load() override;
+  // The target a person clicks for the expert's move for the side to move:
+  // the number of a line in Ombrel, a circle in Zorvex (Squares); 0 in the
+  // other games or when none is left.
+  int expertMove();
 
  private:
   // --- design and load (zorvex.cpp) -------------------------------------------
@@ -111,8 +119,15 @@ class zorvex : public Form {
   void circleReply();
   int pickCircleReply();
   void carryOutReply(int s);
+  void playQuietLine(int L, const cube::PerSquare& painted);
   void squaresReply();
   int pickFrom(const std::vector<int>& candidates);
+
+  // --- the expert (zorvex_expert.cpp) ----------------------------------------------
+  void expertOmbrelReply();
+  bool completesSquare(const cube::PerSquare& painted, int L) const;
+  int expertBoardMove(bool letEventsThrough);
+  void hint_Click();
 
   // --- Line Vrask, the Vrask move, hints (zorvex_vrask.cpp) --------------------------
   void lineVraskClick(int slot, bool byComputer);
@@ -198,6 +213,7 @@ class zorvex : public Form {
   std::optional<Keypad> keypad_{};
   std::optional<RoundList> roundList_{};
   std::optional<TurnFlow> flow_{};
+  std::unique_ptr<ExpertMenu> expert_;
 
   // --- the game -------------------------------------------------------------
   cube::Tables tables;

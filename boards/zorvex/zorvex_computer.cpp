@@ -3,6 +3,7 @@
 #include "boards/zorvex/captions.h"
 #include "boards/zorvex/look.h"
 #include "boards/zorvex/zorvex.h"
+#include "frame/expert_menu.h"
 #include "frame/sudden_death.h"
 #include "frame/turn_flow.h"
 
@@ -27,6 +28,10 @@ int zorvex::pickFrom(const std::vector<int>& candidates) {
 // a random line that leaves no square at three, if there is one. Its pauses
 // let clicks through, and `busy` keeps them out.
 void zorvex::ombrelReply() {
+  if (expert_->on()) {
+    expertOmbrelReply();
+    return;
+  }
   busy = 1;
   PerSquare painted = paintedSides(squareinks);
   rednext = 0;
@@ -41,15 +46,18 @@ void zorvex::ombrelReply() {
   }
   std::vector<int> candidates = safeLines(tables, painted, lineowner);
   if (candidates.empty()) {
-    if (hnt->Checked) MsgBox(kNoGoodMoves);
+    if (hnt->Checked) MsgBox(kNoGoodMovesLeft);
     candidates = freeLines(lineowner);
   }
-  int L = pickFrom(candidates);
+  playQuietLine(pickFrom(candidates), painted);
+}
+
+// A line that completes no square, after a moment more; Blue is next.
+void zorvex::playQuietLine(int L, const PerSquare& painted) {
   waitWithEvents(kLinePause);
   Label34->Caption = movesLeft(freeLineCount() - 1);
   playComputerLine(L);
   hintscan(painted);
-  // No square had three lines, so this line scores nothing: Blue is next.
   flow_->showTurn(Side::Blue);
   flow_->say("No score    Blue's turn.", color::Blue);
   busy = 0;
@@ -69,6 +77,7 @@ void zorvex::playComputerLine(int L) {
 }
 
 // The Vrask circle games: Red's square, played where it stands in this view.
+// The expert plays no circle game on this board (zorvex_expert.cpp says why).
 void zorvex::circleReply() {
   int s = pickCircleReply();
   if (s != 0) carryOutReply(s);
@@ -113,7 +122,7 @@ void zorvex::carryOutReply(int s) {
     lineowner.at(static_cast<size_t>(boardLine(viewno, drawnLine))) = color::Red;
   }
   Refresh();
-  flow_->say(kBluesTurn, color::Blue);
+  flow_->say(kBluePlayersTurn, color::Blue);
   flow_->showTurn(Side::Blue);
   if (isSuperVrask(gamemode)) {
     for (int neighbour : planeNeighbours(p)) paintSquare(neighbour, color::Red);
@@ -123,6 +132,10 @@ void zorvex::carryOutReply(int s) {
 
 // Zorvex (Squares): finish a cube at five, else keep away from cubes at four.
 void zorvex::squaresReply() {
+  if (expert_->on()) {
+    ballswalls(expertBoardMove(false));
+    return;
+  }
   int s = cubeToFinish(tables, cubefaces);
   if (s == 0) s = pickFrom(squareCandidates(tables, cubefaces, circlestate));
   ballswalls(s);

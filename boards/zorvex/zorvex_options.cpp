@@ -38,7 +38,7 @@ void zorvex::game_Click(int m) {
   voomaster();
   showForMode();
   showViewButtons();
-  Label33->Caption = isLineGame(m) ? kPickedLineGame : kPickedCircleGame;
+  Label33->Caption = isLineGame(m) ? kClickALine : kClickACircle;
 }
 
 // What a mode shows: the line games their lines and hit zones, the circle
@@ -114,7 +114,7 @@ void zorvex::newz_Click() {
   if (gamemode == VraskClassic) {
     for (Element& number : *Label11_) number.Visible = gridOn() && isLineGame(gamemode);
     for (Element& zone : *Label22_) zone.Visible = false;
-    Label33->Caption = kPickedCircleGame;
+    Label33->Caption = kClickACircle;
     Label35->Caption = movesLeft(kSquares);
     Label35->Visible = true;
     Label34->Visible = false;
@@ -137,7 +137,7 @@ void zorvex::newz_Click() {
   if (isLineGame(gamemode)) {
     Label33->Caption = kNewLineGame;
     Label34->Caption = movesLeft(kLines);
-    Label35->Caption = nonScoringLeft(kLines);
+    Label35->Caption = nonScoringMovesLeft(kLines);
   } else {
     Label33->Caption = kNewCircleGame;
     Label35->Caption = movesLeft(kSquares);
@@ -178,7 +178,7 @@ void zorvex::openTheGame() {
     if (onePlayer()) scoremove();
     return;
   }
-  flow_->say(isLineVrask(gamemode) ? kRedsLineTurn : kRedsTurn, color::Red);
+  flow_->say(isLineVrask(gamemode) ? kRedsLineTurn : kRedPlayersTurn, color::Red);
   if (!onePlayer()) return;
   if (isLineVrask(gamemode)) {
     fixedOpening();

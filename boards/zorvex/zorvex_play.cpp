@@ -70,11 +70,9 @@ void zorvex::lineClickPrelude() {
 // The mover of the line just clicked, by `rednext`, which then points at the
 // other side; a score turns it back.
 int zorvex::takeLineMover() {
-  bool redMoves = rednext == 1;
-  rednext = redMoves ? 0 : 1;
-  moverid = redMoves ? kRedId : kBlueId;
-  flow_->showTurn(redMoves ? Side::Blue : Side::Red);
-  return redMoves ? color::Red : color::Blue;
+  Side mover = flow_->passLineTurn(rednext);
+  moverid = mover == Side::Red ? kRedId : kBlueId;
+  return mover == Side::Red ? color::Red : color::Blue;
 }
 
 void zorvex::markmov(int L) {
@@ -94,7 +92,7 @@ void zorvex::Label9_Click(int c) {
   // A played circle is refused before anything else is touched.
   int s = boardSquare(viewno, slot);
   if (circlestate.at(static_cast<size_t>(s)) != 0) {
-    MsgBox(kInvalidCircle);
+    MsgBox(kInvalidMove);
     return;
   }
   sd_->stop();
@@ -117,7 +115,7 @@ void zorvex::Label9_Click(int c) {
   if (afterCircleMove()) return;
   if (!onePlayer()) return;
   flow_->showTurn(Side::Red);
-  flow_->say(kRedsTurn, color::Red);
+  flow_->say(kRedPlayersTurn, color::Red);
   Refresh();
   wait(2);
   circleReply();
@@ -157,7 +155,7 @@ void zorvex::inkBoardLine(int L, int value) {
 
 void zorvex::passCircleTurn() {
   bool blueNext = mover() != color::Blue;
-  flow_->say(blueNext ? kBluesTurn : kRedsTurn, blueNext ? color::Blue : color::Red);
+  flow_->say(blueNext ? kBluePlayersTurn : kRedPlayersTurn, blueNext ? color::Blue : color::Red);
   flow_->showTurn(blueNext ? Side::Blue : Side::Red);
 }
 
@@ -167,7 +165,7 @@ void zorvex::passCircleTurn() {
 void zorvex::ballswalls(int s) {
   if (s == 0) s = kTwinCircle;
   if (circlestate.at(static_cast<size_t>(s)) != 0) {
-    MsgBox(kInvalidCircle);
+    MsgBox(kInvalidMove);
     return;
   }
   hideCumulativePanel();

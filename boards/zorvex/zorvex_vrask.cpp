@@ -174,7 +174,7 @@ void zorvex::outtathere() {
 bool zorvex::ombrelOnly(Element& entry) {
   if (gamemode != Ombrel) {
     entry.Checked = false;
-    MsgBox(kOmbrelOnly);
+    MsgBox(kHintForOmbrelOnly);
     return false;
   }
   entry.Checked = !entry.Checked;
@@ -189,7 +189,7 @@ void zorvex::hnt_Click() {
 void zorvex::shint_Click() {
   if (!ombrelOnly(*shint)) return;
   Label35->Visible = shint->Checked;
-  Label35->Caption = nonScoringLeft(kLines);
+  Label35->Caption = nonScoringMovesLeft(kLines);
 }
 
 void zorvex::bhint_Click() {
@@ -202,7 +202,7 @@ void zorvex::bhint_Click() {
 // before its own line.
 void zorvex::hintscan(const PerSquare& before) {
   if (safeLines(tables, paintedSides(squareinks), lineowner).empty()) {
-    if (Label35->Visible) Label34->Caption = kNoNonScoring;
+    if (Label35->Visible) Label34->Caption = kNoNonScoringMovesLeft;
     Label35->Visible = false;
     List3->Visible = false;
   }
@@ -210,16 +210,12 @@ void zorvex::hintscan(const PerSquare& before) {
   std::vector<int> safe = safeLines(tables, before, lineowner);
   for (int L : safe) List3->AddItem(std::to_string(lineNumber(L)));
   if (safe.empty()) List3->Visible = false;
-  Label35->Caption = nonScoringLeft(static_cast<int>(safe.size()));
+  Label35->Caption = nonScoringMovesLeft(static_cast<int>(safe.size()));
 }
 
 // A number chosen in the list goes to the keypad; a double click plays it.
 void zorvex::List3_Click(bool play) {
-  if (List3->ListIndex < 0 || List3->ListIndex >= List3->ListCount()) return;
-  if (!keypad_->on()) keypad_->toggleFromMenu();
-  keypad_->text().Visible = true;
-  keypad_->text().Text = List3->List.at(static_cast<size_t>(List3->ListIndex));
-  if (play) Command6_Click();
+  if (keypad_->takeListRow(*List3) && play) Command6_Click();
 }
 
 }  // namespace vrask

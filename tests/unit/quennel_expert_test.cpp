@@ -2,38 +2,31 @@
 // by their lines, one move a line.
 #include <gtest/gtest.h>
 
-#include "boards/quennel/tables.h"
-#include "frame/expert_lines.h"
+#include <algorithm>
 
-namespace vrask {
+#include "boards/quennel/expert_view.h"
+
+namespace vrask::quennel {
 namespace {
 
 // The first size with every line taken but those in `free`.
-LinePosition firstSizeWithFree(std::initializer_list<int> free) {
-  quennel::CellLines celllines = quennel::startgrids();
-  LinePosition position;
-  for (int f = 1; f <= quennel::facesOfSize(0); ++f) {
-    position.cells.emplace_back(celllines[f].begin() + 1, celllines[f].end());
-  }
-  position.taken.assign(quennel::kLines + 1, false);
-  for (int line = 1; line <= quennel::linesOfSize(0); ++line) position.taken[line] = true;
-  for (int line : free) position.taken[line] = false;
-  return position;
+ExpertLines firstSizeWithFree(std::initializer_list<int> free) {
+  LineValues linetaken{};
+  for (int line = 1; line <= linesOfSize(0); ++line) linetaken[line] = 1;
+  for (int line : free) linetaken[line] = 0;
+  return expertLinesOf(startgrids(), linetaken, facesOfSize(0));
 }
 
 // Only the three lines from the apex are free: faces 1, 5 and 9 make a ring
 // of three in which each line closes two faces. Whoever draws first gives
 // all three away.
 TEST(QuennelExpert, TheApexRingOfThreeGoesToTheSecondPlayer) {
-  LinePosition position = firstSizeWithFree({1, 2, 3});
-  std::vector<int> lineOfMove;
-  expert::LineProblem problem = lineProblemOf(position, lineOfMove);
-  EXPECT_EQ(problem.cells.size(), 20U);
-  EXPECT_EQ(lineOfMove.size(), 24U);
-  EXPECT_EQ(std::count(problem.taken.begin(), problem.taken.end(), false), 3);
-  EXPECT_EQ(expert::exactLineValue(problem), -3);
-  EXPECT_FALSE(position.completes(1));
-  int line = expertLineOf(position, expert::Budget{100000});
+  ExpertLines view = firstSizeWithFree({1, 2, 3});
+  EXPECT_EQ(view.problem.cells.size(), 20U);
+  EXPECT_EQ(view.lineOfMove.size(), 24U);
+  EXPECT_EQ(std::count(view.problem.taken.begin(), view.problem.taken.end(), false), 3);
+  EXPECT_EQ(expert::exactLineValue(view.problem), -3);
+  int line = view.bestLine(expert::Budget{100000});
   EXPECT_TRUE(line >= 1 && line <= 3) << line;
 }
 
@@ -41,13 +34,17 @@ TEST(QuennelExpert, TheApexRingOfThreeGoesToTheSecondPlayer) {
 // two faces at once (4 closes 1 and 3), and the last of them the base (13)
 // too, so the mover takes all seven.
 TEST(QuennelExpert, LinesThatCloseSeveralFacesAreTakenInARow) {
-  LinePosition position = firstSizeWithFree({4, 5, 6});
-  EXPECT_TRUE(position.completes(4));
-  std::vector<int> lineOfMove;
-  EXPECT_EQ(expert::exactLineValue(lineProblemOf(position, lineOfMove)), 7);
-  position.taken[4] = position.taken[5] = position.taken[6] = true;
-  EXPECT_EQ(expertLineOf(position, expert::Budget{1000}), 0);
+  EXPECT_EQ(expert::exactLineValue(firstSizeWithFree({4, 5, 6}).problem), 7);
+  EXPECT_EQ(firstSizeWithFree({}).bestLine(expert::Budget{1000}), 0);
+}
+
+// The second size's faces and lines join in only when it is chosen.
+TEST(QuennelExpert, TheSizeChoosesTheFacesAndLines) {
+  LineValues linetaken{};
+  ExpertLines full = expertLinesOf(startgrids(), linetaken, facesOfSize(1));
+  EXPECT_EQ(full.problem.cells.size(), 36U);
+  EXPECT_EQ(full.lineOfMove.size(), 39U);
 }
 
 }  // namespace
-}  // namespace vrask
+}  // namespace vrask::quennel
