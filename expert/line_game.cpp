@@ -55,7 +55,26 @@ struct Graph {
   std::vector<std::vector<int>> cellMoves;  // each side of a cell, as its move
   std::vector<std::vector<int>> moveCells;  // each cell side a move takes
   std::vector<uint64_t> zobrist;
+  std::vector<std::vector<int>> images;    // per symmetry, the image of each move
+  std::vector<std::vector<int>> preimages;  // per symmetry, its inverse
 };
+
+void addSymmetries(const LineProblem& p, Graph& g) {
+  for (const auto& image : p.symmetries) {
+    std::vector<int> inverse(p.moves.size(), kNoMove);
+    if (image.size() != p.moves.size()) throw std::invalid_argument("a symmetry misses moves");
+    for (size_t m = 0; m < image.size(); ++m) {
+      int to = image[m];
+      if (to < 0 || static_cast<size_t>(to) >= image.size() ||
+          inverse[static_cast<size_t>(to)] != kNoMove) {
+        throw std::invalid_argument("a symmetry is not a permutation of the moves");
+      }
+      inverse[static_cast<size_t>(to)] = static_cast<int>(m);
+    }
+    g.images.push_back(image);
+    g.preimages.push_back(inverse);
+  }
+}
 
 Graph graphOf(const LineProblem& p) {
   Graph g;
@@ -81,6 +100,7 @@ Graph graphOf(const LineProblem& p) {
     z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
     g.zobrist.push_back(z ^ (z >> 31));
   }
+  addSymmetries(p, g);
   return g;
 }
 
@@ -105,7 +125,10 @@ class Search {
     for (size_t m = 0; m < p.moves.size(); ++m) {
       if (p.taken[m] || g_.moveCells[m].empty()) continue;
       free_[m] = true;
-      hash_ ^= g_.zobrist[m];
+    }
+    imageHash_.assign(g_.images.size(), 0);
+    for (size_t m = 0; m < free_.size(); ++m) {
+      if (free_[m]) flip(static_cast<int>(m));
     }
     for (size_t c = 0; c < p.cells.size(); ++c) {
       for (int m : g_.cellMoves[c]) freeSides_[c] += free_[static_cast<size_t>(m)] ? 1 : 0;
@@ -141,13 +164,14 @@ class Search {
   }
 
   void allow(long nodes) { budget_ = nodes; }
+  long left() const { return budget_; }
 
  private:
   int play(int m) {
     int gained = 0;
     free_[static_cast<size_t>(m)] = false;
     --freeCount_;
-    hash_ ^= g_.zobrist[static_cast<size_t>(m)];
+    flip(m);
     for (int c : g_.moveCells[static_cast<size_t>(m)]) {
       if (--freeSides_[static_cast<size_t>(c)] == 0) ++gained;
     }
@@ -156,8 +180,37 @@ class Search {
   void undo(int m) {
     free_[static_cast<size_t>(m)] = true;
     ++freeCount_;
-    hash_ ^= g_.zobrist[static_cast<size_t>(m)];
+    flip(m);
     for (int c : g_.moveCells[static_cast<size_t>(m)]) ++freeSides_[static_cast<size_t>(c)];
+  }
+
+  // The position's key, kept for it and for each of its images.
+  void flip(int m) {
+    hash_ ^= g_.zobrist[static_cast<size_t>(m)];
+    for (size_t k = 0; k < g_.images.size(); ++k) {
+      imageHash_[k] ^= g_.zobrist[static_cast<size_t>(g_.images[k][static_cast<size_t>(m)])];
+    }
+  }
+
+  // The smallest key of the position and its images, and which image has it
+  // (-1: the position itself). Moves stored in the table are the image's.
+  std::pair<uint64_t, int> canonical() const {
+    std::pair<uint64_t, int> least{hash_, -1};
+    for (size_t k = 0; k < imageHash_.size(); ++k) {
+      if (imageHash_[k] < least.first) least = {imageHash_[k], static_cast<int>(k)};
+    }
+    return least;
+  }
+
+  int toStored(int m, int frame) const {
+    return frame < 0 || m == kNoMove
+               ? m
+               : g_.images[static_cast<size_t>(frame)][static_cast<size_t>(m)];
+  }
+  int fromStored(int m, int frame) const {
+    return frame < 0 || m == kNoMove
+               ? m
+               : g_.preimages[static_cast<size_t>(frame)][static_cast<size_t>(m)];
   }
 
   int freeMoveOf(int cell) const {
@@ -249,10 +302,11 @@ class Search {
     if (freeCount_ == 0) return 0;
     bool capture = anyCapture();
 
-    Entry& entry = table_[hash_ & ((size_t{1} << kTableBits) - 1)];
+    auto [key, frame] = canonical();
+    Entry& entry = table_[key & ((size_t{1} << kTableBits) - 1)];
     int hinted = kNoMove;
-    if (entry.key == hash_) {
-      hinted = entry.best;
+    if (entry.key == key) {
+      hinted = fromStored(entry.best, frame);
       bool deepEnough = entry.depth == kExactDepth || entry.depth >= depth;
       if (deepEnough && bestOut == nullptr) {
         if (entry.depth != kExactDepth) guessed_ = true;
@@ -316,11 +370,11 @@ class Search {
     bool guessedHere = guessed_ || pruned;
     guessed_ = guessedBefore || guessedHere;
 
-    entry.key = hash_;
+    entry.key = key;
     entry.value = static_cast<int16_t>(best);
     entry.depth = guessedHere ? static_cast<uint8_t>(std::clamp(depth, 0, 254)) : kExactDepth;
     entry.bound = best <= alpha0 ? 2 : (best >= beta ? 1 : 0);
-    entry.best = static_cast<int16_t>(bestMove);
+    entry.best = static_cast<int16_t>(toStored(bestMove, frame));
     if (bestOut != nullptr) *bestOut = bestMove;
     return best;
   }
@@ -465,6 +519,7 @@ class Search {
   std::vector<int> freeSides_;
   int freeCount_ = 0;
   uint64_t hash_ = 0;
+  std::vector<uint64_t> imageHash_;
   bool guessed_ = false;
   bool pruning_ = false;  // the deepening leaves out moves that seldom pay
 };
@@ -512,6 +567,12 @@ int bestLineMove(const LineProblem& problem, Budget budget) {
 int exactLineValue(const LineProblem& problem) {
   Search search(problem, std::numeric_limits<long>::max());
   return search.solve(std::numeric_limits<long>::max()).second;
+}
+
+long exactLineWork(const LineProblem& problem) {
+  Search search(problem, std::numeric_limits<long>::max());
+  search.solve(std::numeric_limits<long>::max());
+  return std::numeric_limits<long>::max() - search.left();
 }
 
 }  // namespace vrask::expert
