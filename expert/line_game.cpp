@@ -55,7 +55,7 @@ struct Graph {
   std::vector<std::vector<int>> cellMoves;  // each side of a cell, as its move
   std::vector<std::vector<int>> moveCells;  // each cell side a move takes
   std::vector<uint64_t> zobrist;
-  std::vector<std::vector<int>> images;    // per symmetry, the image of each move
+  std::vector<std::vector<int>> images;     // per symmetry, the image of each move
   std::vector<std::vector<int>> preimages;  // per symmetry, its inverse
 };
 

@@ -18,14 +18,22 @@ struct Place {
 Place turned(int way, Place p, int size) {
   int last = size - 1;
   switch (way) {
-    case 0: return p;
-    case 1: return {p.column, last - p.row};
-    case 2: return {last - p.row, last - p.column};
-    case 3: return {last - p.column, p.row};
-    case 4: return {p.row, last - p.column};
-    case 5: return {last - p.row, p.column};
-    case 6: return {p.column, p.row};
-    default: return {last - p.column, last - p.row};
+    case 0:
+      return p;
+    case 1:
+      return {p.column, last - p.row};
+    case 2:
+      return {last - p.row, last - p.column};
+    case 3:
+      return {last - p.column, p.row};
+    case 4:
+      return {p.row, last - p.column};
+    case 5:
+      return {last - p.row, p.column};
+    case 6:
+      return {p.column, p.row};
+    default:
+      return {last - p.column, last - p.row};
   }
 }
 

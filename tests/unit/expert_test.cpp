@@ -264,9 +264,9 @@ TEST(ExpertExactSearch, SymmetricPositionsShareTheirValueAndTheWork) {
   EXPECT_EQ(exactLineValue(turned), exactLineValue(plain));
   EXPECT_LT(exactLineWork(turned), exactLineWork(plain));
   LineProblem three = grid(3, 3);
-  for (std::initializer_list<int> lines :
-       {std::initializer_list<int>{0, 1, 2, 3, 4, 5, 12, 16}, {3, 4, 5, 13, 14, 17, 9},
-        {0, 2, 9, 11, 12, 15, 19, 23}}) {
+  for (std::initializer_list<int> lines : {std::initializer_list<int>{0, 1, 2, 3, 4, 5, 12, 16},
+                                           {3, 4, 5, 13, 14, 17, 9},
+                                           {0, 2, 9, 11, 12, 15, 19, 23}}) {
     LineProblem p = with(three, lines);
     LineProblem q = p;
     q.symmetries = squareSymmetries(3);
