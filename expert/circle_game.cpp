@@ -9,6 +9,10 @@ namespace {
 
 constexpr int kInfinity = 100000;
 constexpr int kNone = -1;
+// A circle move repaints its pattern and judges the cells around it: a
+// position costs about ten of the budget's units, which are the line
+// search's.
+constexpr long kUnitsPerPosition = 10;
 
 struct OutOfBudget {};
 
@@ -176,7 +180,7 @@ class CircleSearch {
 }  // namespace
 
 int bestCircle(const CircleProblem& problem, Budget budget) {
-  CircleSearch search(problem, budget.nodes);
+  CircleSearch search(problem, budget.nodes / kUnitsPerPosition);
   int open = search.openCount();
   if (open == 0) return kNone;
   int best = search.ordered(problem.mover).front();

@@ -9,7 +9,7 @@ namespace vrask::expert {
 
 namespace {
 
-constexpr long kNodesPerMilli = 2500;
+constexpr long kNodesPerMilli = 25000;
 constexpr int kInfinity = 1000;
 constexpr int kNoMove = -1;
 
@@ -55,7 +55,26 @@ struct Graph {
   std::vector<std::vector<int>> cellMoves;  // each side of a cell, as its move
   std::vector<std::vector<int>> moveCells;  // each cell side a move takes
   std::vector<uint64_t> zobrist;
+  std::vector<std::vector<int>> images;     // per symmetry, the image of each move
+  std::vector<std::vector<int>> preimages;  // per symmetry, its inverse
 };
+
+void addSymmetries(const LineProblem& p, Graph& g) {
+  for (const auto& image : p.symmetries) {
+    std::vector<int> inverse(p.moves.size(), kNoMove);
+    if (image.size() != p.moves.size()) throw std::invalid_argument("a symmetry misses moves");
+    for (size_t m = 0; m < image.size(); ++m) {
+      int to = image[m];
+      if (to < 0 || static_cast<size_t>(to) >= image.size() ||
+          inverse[static_cast<size_t>(to)] != kNoMove) {
+        throw std::invalid_argument("a symmetry is not a permutation of the moves");
+      }
+      inverse[static_cast<size_t>(to)] = static_cast<int>(m);
+    }
+    g.images.push_back(image);
+    g.preimages.push_back(inverse);
+  }
+}
 
 Graph graphOf(const LineProblem& p) {
   Graph g;
@@ -81,6 +100,7 @@ Graph graphOf(const LineProblem& p) {
     z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
     g.zobrist.push_back(z ^ (z >> 31));
   }
+  addSymmetries(p, g);
   return g;
 }
 
@@ -105,7 +125,10 @@ class Search {
     for (size_t m = 0; m < p.moves.size(); ++m) {
       if (p.taken[m] || g_.moveCells[m].empty()) continue;
       free_[m] = true;
-      hash_ ^= g_.zobrist[m];
+    }
+    imageHash_.assign(g_.images.size(), 0);
+    for (size_t m = 0; m < free_.size(); ++m) {
+      if (free_[m]) flip(static_cast<int>(m));
     }
     for (size_t c = 0; c < p.cells.size(); ++c) {
       for (int m : g_.cellMoves[c]) freeSides_[c] += free_[static_cast<size_t>(m)] ? 1 : 0;
@@ -119,6 +142,7 @@ class Search {
   // `exact` when no guess was needed anywhere.
   std::pair<int, int> root(int depth, bool& exact) {
     guessed_ = false;
+    pruning_ = true;
     int bestMove = kNoMove;
     int value = negamax(depth, -kInfinity, kInfinity, &bestMove);
     exact = !guessed_;
@@ -130,18 +154,24 @@ class Search {
     return anyCapture() ? capturesAndDeclines(true).front() : quietMoves().front();
   }
 
-  int solve() {
-    budget_ = std::numeric_limits<long>::max();
+  // The best move and the value searched to the end, within `nodes`.
+  std::pair<int, int> solve(long nodes) {
+    budget_ = nodes;
+    pruning_ = false;
     int best = kNoMove;
-    return negamax(kExactDepth - 1, -kInfinity, kInfinity, &best);
+    int value = negamax(kExactDepth - 1, -kInfinity, kInfinity, &best);
+    return {best, value};
   }
+
+  void allow(long nodes) { budget_ = nodes; }
+  long left() const { return budget_; }
 
  private:
   int play(int m) {
     int gained = 0;
     free_[static_cast<size_t>(m)] = false;
     --freeCount_;
-    hash_ ^= g_.zobrist[static_cast<size_t>(m)];
+    flip(m);
     for (int c : g_.moveCells[static_cast<size_t>(m)]) {
       if (--freeSides_[static_cast<size_t>(c)] == 0) ++gained;
     }
@@ -150,8 +180,37 @@ class Search {
   void undo(int m) {
     free_[static_cast<size_t>(m)] = true;
     ++freeCount_;
-    hash_ ^= g_.zobrist[static_cast<size_t>(m)];
+    flip(m);
     for (int c : g_.moveCells[static_cast<size_t>(m)]) ++freeSides_[static_cast<size_t>(c)];
+  }
+
+  // The position's key, kept for it and for each of its images.
+  void flip(int m) {
+    hash_ ^= g_.zobrist[static_cast<size_t>(m)];
+    for (size_t k = 0; k < g_.images.size(); ++k) {
+      imageHash_[k] ^= g_.zobrist[static_cast<size_t>(g_.images[k][static_cast<size_t>(m)])];
+    }
+  }
+
+  // The smallest key of the position and its images, and which image has it
+  // (-1: the position itself). Moves stored in the table are the image's.
+  std::pair<uint64_t, int> canonical() const {
+    std::pair<uint64_t, int> least{hash_, -1};
+    for (size_t k = 0; k < imageHash_.size(); ++k) {
+      if (imageHash_[k] < least.first) least = {imageHash_[k], static_cast<int>(k)};
+    }
+    return least;
+  }
+
+  int toStored(int m, int frame) const {
+    return frame < 0 || m == kNoMove
+               ? m
+               : g_.images[static_cast<size_t>(frame)][static_cast<size_t>(m)];
+  }
+  int fromStored(int m, int frame) const {
+    return frame < 0 || m == kNoMove
+               ? m
+               : g_.preimages[static_cast<size_t>(frame)][static_cast<size_t>(m)];
   }
 
   int freeMoveOf(int cell) const {
@@ -242,15 +301,12 @@ class Search {
     spend(1 + freeCount_);
     if (freeCount_ == 0) return 0;
     bool capture = anyCapture();
-    if (depth <= 0 && !capture) {
-      guessed_ = true;
-      return guess();
-    }
 
-    Entry& entry = table_[hash_ & ((size_t{1} << kTableBits) - 1)];
+    auto [key, frame] = canonical();
+    Entry& entry = table_[key & ((size_t{1} << kTableBits) - 1)];
     int hinted = kNoMove;
-    if (entry.key == hash_) {
-      hinted = entry.best;
+    if (entry.key == key) {
+      hinted = fromStored(entry.best, frame);
       bool deepEnough = entry.depth == kExactDepth || entry.depth >= depth;
       if (deepEnough && bestOut == nullptr) {
         if (entry.depth != kExactDepth) guessed_ = true;
@@ -260,7 +316,29 @@ class Search {
       }
     }
 
-    std::vector<int> moves = capture ? capturesAndDeclines(depth >= 0) : quietMoves();
+    std::vector<int> quiet;
+    bool pruned = false;
+    if (!capture) {
+      quiet = quietMoves();
+      if (!opened(quiet.front()).empty()) {
+        // Every move gives something away. When what is left is only
+        // chains and loops, their opener's net is known without searching.
+        bool simple = false;
+        std::vector<int> comps = strings(&simple);
+        if (simple && bestOut == nullptr) return openerValueOf(comps);
+        quiet = withoutTwinOpenings(quiet);
+      } else if (pruning_) {
+        size_t all = quiet.size();
+        quiet = safeOrSmallSacrifices(quiet);
+        pruned = quiet.size() < all;
+      }
+      if (depth <= 0) {
+        guessed_ = true;
+        return guess();
+      }
+    }
+
+    std::vector<int> moves = capture ? capturesAndDeclines(depth >= 0) : std::move(quiet);
     if (hinted != kNoMove) {
       auto it = std::find(moves.begin(), moves.end(), hinted);
       if (it != moves.end()) std::rotate(moves.begin(), it, it + 1);
@@ -289,14 +367,14 @@ class Search {
       alpha = std::max(alpha, value);
       if (alpha >= beta) break;
     }
-    bool guessedHere = guessed_;
+    bool guessedHere = guessed_ || pruned;
     guessed_ = guessedBefore || guessedHere;
 
-    entry.key = hash_;
+    entry.key = key;
     entry.value = static_cast<int16_t>(best);
     entry.depth = guessedHere ? static_cast<uint8_t>(std::clamp(depth, 0, 254)) : kExactDepth;
     entry.bound = best <= alpha0 ? 2 : (best >= beta ? 1 : 0);
-    entry.best = static_cast<int16_t>(bestMove);
+    entry.best = static_cast<int16_t>(toStored(bestMove, frame));
     if (bestOut != nullptr) *bestOut = bestMove;
     return best;
   }
@@ -332,41 +410,106 @@ class Search {
     return played.size() % 2 == 0 ? value : -value;
   }
 
-  // The cells still open, in groups joined by free moves: a group whose
-  // cells all have two free sides is a chain, or a loop when it has no free
-  // side to the outside; any other group counts as a chain of its size.
-  std::vector<int> strings() const {
+  // The cells still open, in groups joined by free moves. A group whose
+  // cells all have two free sides is plain: a chain, or a loop when no free
+  // side of it leads to the outside.
+  struct Group {
+    int cells = 0;
+    bool plain = true;
+    bool outside = false;
+    bool loop() const { return plain && !outside && cells >= 4; }
+    // A plain group that is neither a chain nor a loop of four or more
+    // (two cells joined twice) is searched as it is.
+    bool simple() const { return plain && (outside || cells >= 4); }
+  };
+  struct Groups {
+    std::vector<int> of;  // per cell, its group; -1 when whole
+    std::vector<Group> list;
+  };
+
+  Groups groups() const {
     size_t n = freeSides_.size();
-    std::vector<int> group(n, -1);
-    std::vector<int> comps;
+    Groups found;
+    found.of.assign(n, -1);
     for (size_t start = 0; start < n; ++start) {
-      if (freeSides_[start] == 0 || group[start] >= 0) continue;
-      int id = static_cast<int>(comps.size());
+      if (freeSides_[start] == 0 || found.of[start] >= 0) continue;
+      int id = static_cast<int>(found.list.size());
+      Group group;
       std::vector<int> stack{static_cast<int>(start)};
-      group[start] = id;
-      int cells = 0;
-      bool plain = true;
-      bool outside = false;
+      found.of[start] = id;
       while (!stack.empty()) {
         int c = stack.back();
         stack.pop_back();
-        ++cells;
-        if (freeSides_[static_cast<size_t>(c)] != 2) plain = false;
+        ++group.cells;
+        if (freeSides_[static_cast<size_t>(c)] != 2) group.plain = false;
         for (int m : g_.cellMoves[static_cast<size_t>(c)]) {
           if (!free_[static_cast<size_t>(m)]) continue;
           const auto& touched = g_.moveCells[static_cast<size_t>(m)];
-          if (touched.size() == 1) outside = true;
+          if (touched.size() == 1) group.outside = true;
           for (int d : touched) {
-            if (group[static_cast<size_t>(d)] < 0) {
-              group[static_cast<size_t>(d)] = id;
+            if (found.of[static_cast<size_t>(d)] < 0) {
+              found.of[static_cast<size_t>(d)] = id;
               stack.push_back(d);
             }
           }
         }
       }
-      comps.push_back(plain && !outside && cells >= 4 ? -cells : cells);
+      found.list.push_back(group);
     }
+    return found;
+  }
+
+  // The groups as chains (their sizes) and loops (minus their sizes); any
+  // group that is not plain counts as a chain of its size.
+  std::vector<int> strings(bool* allSimple = nullptr) const {
+    Groups found = groups();
+    std::vector<int> comps;
+    bool everySimple = true;
+    for (const Group& group : found.list) {
+      comps.push_back(group.loop() ? -group.cells : group.cells);
+      everySimple = everySimple && group.simple();
+    }
+    if (allSimple != nullptr) *allSimple = everySimple;
     return comps;
+  }
+
+  // While moves that give nothing away remain, the deepening looks only at
+  // them and at giving away a chain of one or two to turn the parity.
+  std::vector<int> safeOrSmallSacrifices(const std::vector<int>& moves) const {
+    Groups found = groups();
+    std::vector<int> kept;
+    for (int m : withoutTwinOpenings(moves)) {
+      int id = found.of[static_cast<size_t>(g_.moveCells[static_cast<size_t>(m)].front())];
+      const Group& group = found.list[static_cast<size_t>(id)];
+      bool small = group.simple() && !group.loop() && group.cells <= 2;
+      if (small || opened(m).empty()) kept.push_back(m);
+    }
+    return kept;
+  }
+
+  // Of the moves that open a chain or a loop standing alone, one stands for
+  // them all: any opening of a loop or of a chain of three or more gives the
+  // taker the same choice, and a chain of two is best opened in its middle,
+  // which leaves the taker no choice.
+  std::vector<int> withoutTwinOpenings(const std::vector<int>& moves) const {
+    Groups found = groups();
+    std::vector<int> chosen(found.list.size(), kNoMove);
+    for (int m : moves) {
+      const auto& touched = g_.moveCells[static_cast<size_t>(m)];
+      int id = found.of[static_cast<size_t>(touched.front())];
+      const Group& group = found.list[static_cast<size_t>(id)];
+      if (!group.simple() || chosen[static_cast<size_t>(id)] != kNoMove) continue;
+      bool middle = touched.size() == 2 && touched[0] != touched[1];
+      bool wanted = group.loop() || (group.cells == 2 ? middle : touched.size() == 1);
+      if (wanted) chosen[static_cast<size_t>(id)] = m;
+    }
+    std::vector<int> kept;
+    for (int m : moves) {
+      int id = found.of[static_cast<size_t>(g_.moveCells[static_cast<size_t>(m)].front())];
+      int stand = chosen[static_cast<size_t>(id)];
+      if (stand == kNoMove || stand == m) kept.push_back(m);
+    }
+    return kept;
   }
 
   Graph g_;
@@ -376,7 +519,9 @@ class Search {
   std::vector<int> freeSides_;
   int freeCount_ = 0;
   uint64_t hash_ = 0;
+  std::vector<uint64_t> imageHash_;
   bool guessed_ = false;
+  bool pruning_ = false;  // the deepening leaves out moves that seldom pay
 };
 
 }  // namespace
@@ -394,6 +539,14 @@ int openerValue(const Strings& strings) {
 int bestLineMove(const LineProblem& problem, Budget budget) {
   Search search(problem, budget.nodes);
   if (search.freeCount() == 0) return kNoMove;
+  // Searched to the end if half the budget does it; what it settled on the
+  // way stays in the table for the deepening.
+  long half = budget.nodes / 2;
+  try {
+    return search.solve(half).first;
+  } catch (const OutOfBudget&) {
+    search.allow(budget.nodes - half);
+  }
   int best = kNoMove;
   try {
     for (int depth = 1; depth < kExactDepth - 1; ++depth) {
@@ -413,7 +566,13 @@ int bestLineMove(const LineProblem& problem, Budget budget) {
 
 int exactLineValue(const LineProblem& problem) {
   Search search(problem, std::numeric_limits<long>::max());
-  return search.solve();
+  return search.solve(std::numeric_limits<long>::max()).second;
+}
+
+long exactLineWork(const LineProblem& problem) {
+  Search search(problem, std::numeric_limits<long>::max());
+  search.solve(std::numeric_limits<long>::max());
+  return std::numeric_limits<long>::max() - search.left();
 }
 
 }  // namespace vrask::expert

@@ -19,6 +19,10 @@ struct LineProblem {
   std::vector<std::vector<int>> moves;
   // Per move: already played.
   std::vector<bool> taken;
+  // Optional: the board's symmetries, each as the image of every move under
+  // it (the identity left out). Positions that are images of each other are
+  // one position to the search, which learns about them once.
+  std::vector<std::vector<int>> symmetries;
 };
 
 // How long to think, as positions to visit: roughly a millisecond's work on
@@ -35,6 +39,9 @@ int bestLineMove(const LineProblem& problem, Budget budget);
 // What the player to move can still win over the other from here, under best
 // play by both; searched to the end, whatever it costs.
 int exactLineValue(const LineProblem& problem);
+
+// What the exact search above spends of a budget.
+long exactLineWork(const LineProblem& problem);
 
 // Chains and loops left when every move gives something away: the net the
 // player who must open one can make, each opened in the best order and each
