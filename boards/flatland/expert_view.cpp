@@ -1,6 +1,7 @@
 #include "boards/flatland/expert_view.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 
 #include "frame/expert_lines.h"
