@@ -58,7 +58,7 @@ class OmbrelBoard {
     ASSERT_EQ(program_.userEvent(form(), e, choice.element + "_Click").outcome,
               Program::Outcome::Done);
   }
-  int number(const std::string& name, std::vector<int> at = {}) {
+  int number(const std::string& name, const std::vector<int>& at = {}) {
     return static_cast<int>(numberOf(form(), name, at));
   }
 
