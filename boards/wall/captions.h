@@ -4,6 +4,8 @@
 #include <array>
 #include <string>
 
+#include "frame/captions.h"
+
 namespace vrask::wall {
 
 // The players menu: "3 Players" and "2 Players versus the computer" are
@@ -44,16 +46,8 @@ inline std::string gameLabel(int gamecode) {
 inline constexpr std::array<const char*, 3> kLevelCaptions{"Vrask The Wall", "Vrask a Bigger Wall",
                                                            "Vrask the Great Wall"};
 
-// The status line, the last move, the one refusal and the count.
-inline constexpr const char* kClickACircle = "Click a circle to begin playing";
-inline constexpr const char* kBluesTurn = "Blue player's turn";
-inline constexpr const char* kRedsTurn = "Red player's turn";
-inline constexpr const char* kLastMove = "Last move: ";
-inline constexpr const char* kInvalidMove = "Invalid move!";
+// The status line, the last move, the one refusal and the count are the
+// frame's (frame/captions.h); the heading of the count is the wall's own.
 inline constexpr const char* kMovesLeftHeading = "Moves left:";
-
-inline std::string movesLeft(int n) {
-  return std::to_string(n) + " moves left";
-}
 
 }  // namespace vrask::wall

@@ -109,7 +109,7 @@ void vraskthewall::openGame() {
     return;
   }
   openerflag = 1;
-  flow_->say(kRedsTurn, color::Red);
+  flow_->say(kRedPlayersTurn, color::Red);
   flow_->showTurn(Side::Red);
   if (!ip(0).Checked) return;
   int s = openingSquare([this](int n) { return pick(n); }, [this](int t) { return onWallNow(t); });

@@ -68,7 +68,7 @@ void vraskthewall::takeSquare(int s, int colour) {
 void vraskthewall::passTurn() {
   if (ip(0).Checked) return;
   bool blueNext = flow_->moverColour() != color::Blue;
-  flow_->say(blueNext ? kBluesTurn : kRedsTurn, blueNext ? color::Blue : color::Red);
+  flow_->say(blueNext ? kBluePlayersTurn : kRedPlayersTurn, blueNext ? color::Blue : color::Red);
   flow_->showTurn(blueNext ? Side::Blue : Side::Red);
 }
 
